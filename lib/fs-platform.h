@@ -1,0 +1,40 @@
+// The few file-system services that differ by platform, behind one interface.
+//
+// FSPathMakeRef / FSRefMakePath: on macOS the CoreServices calls; elsewhere our own pair with the
+// same contract: given an existing path, FSRefMakePath gives back the same path in the form
+// stored on disk (letter case and Unicode form of each component), and a path that cannot be
+// resolved makes FSPathMakeRef fail with a non-zero status.
+#ifndef LIB_FS_PLATFORM_H
+#define LIB_FS_PLATFORM_H
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+
+#if defined(__APPLE__)
+#include <CoreServices/CoreServices.h>
+#else
+typedef int32_t OSStatus;
+typedef uint8_t UInt8;
+typedef uint32_t UInt32;
+typedef unsigned char Boolean;
+
+enum {
+    kFSStatusNotFound = -43,
+    kFSStatusBadParam = -50,
+    kFSStatusPathTooLong = -2110,
+};
+
+struct FSRef {
+    std::string stored_path;
+};
+
+OSStatus FSPathMakeRef(const UInt8* path, FSRef* ref, Boolean* isDirectory);
+OSStatus FSRefMakePath(const FSRef* ref, UInt8* path, UInt32 maxPathSize);
+#endif
+
+// The type name of the file system holding path, in the platform's statfs naming: "nfs",
+// "smbfs", "afpfs", "msdos", ... 0, or -1 with errno set.
+int FSFileSystemTypeName(const char* path, std::string& name);
+
+#endif
