@@ -1,0 +1,147 @@
+// Linux side of the platform seam.
+//
+// The on-disk form of a path is found component by component: a component that is stored
+// byte-for-byte is kept; otherwise its parent folder is searched for the one entry that equals
+// it under canonical caseless matching (NFD, case folding, NFD). That is what a folder that
+// ignores case or Unicode form would have matched.
+#include "fs-platform.h"
+
+#include <dirent.h>
+#include <linux/magic.h>
+#include <sys/stat.h>
+#include <sys/vfs.h>
+#include <unicode/uchar.h>
+#include <unicode/ustring.h>
+
+#include <cstring>
+
+#include "fs-platform-linux.h"
+#include "ustring.h"
+
+namespace {
+
+// The caseless-match key of a name in UTF-8; empty when the name is not valid UTF-8.
+std::string caseless_key(const char* name) {
+    const ustring text(name);
+    if (text.empty() || !ustring::is_valid(text)) return std::string();
+    const ustring nfd = text.normalize(NFD);
+    const UChar* src = reinterpret_cast<const UChar*>(nfd.c_str_utf16());
+    UErrorCode err = U_ZERO_ERROR;
+    const int32_t len = u_strFoldCase(nullptr, 0, src, -1, U_FOLD_CASE_DEFAULT, &err);
+    std::u16string folded(static_cast<size_t>(len), u'\0');
+    err = U_ZERO_ERROR;
+    u_strFoldCase(reinterpret_cast<UChar*>(&folded[0]), len, src, -1, U_FOLD_CASE_DEFAULT, &err);
+    if (U_FAILURE(err)) return std::string();
+    const ustring key(reinterpret_cast<const unsigned short*>(folded.c_str()));
+    return key.normalize(NFD).c_str();
+}
+
+class DirStream {
+public:
+    explicit DirStream(const std::string& dir) : dir_(opendir(dir.empty() ? "." : dir.c_str())) {}
+    ~DirStream() {
+        if (dir_) closedir(dir_);
+    }
+    DirStream(const DirStream&) = delete;
+    DirStream& operator=(const DirStream&) = delete;
+    DIR* get() const { return dir_; }
+
+private:
+    DIR* dir_;
+};
+
+// Finds how `component` is stored in the folder `dir` ("" for the current folder, else ending
+// in "/"). False when it is not there or more than one entry matches.
+bool stored_name(const std::string& dir, const std::string& component, std::string& stored) {
+    DirStream stream(dir);
+    if (!stream.get()) {
+        // Searchable but not listable: all we can tell is whether the name as given exists.
+        struct stat st;
+        if (lstat((dir + component).c_str(), &st) != 0) return false;
+        stored = component;
+        return true;
+    }
+    while (const dirent* entry = readdir(stream.get())) {
+        if (component == entry->d_name) {
+            stored = component;
+            return true;
+        }
+    }
+    const std::string wanted = caseless_key(component.c_str());
+    if (wanted.empty()) return false;
+    rewinddir(stream.get());
+    int matches = 0;
+    while (const dirent* entry = readdir(stream.get())) {
+        if (caseless_key(entry->d_name) == wanted) {
+            stored = entry->d_name;
+            ++matches;
+        }
+    }
+    return matches == 1;
+}
+
+}  // namespace
+
+OSStatus FSPathMakeRef(const UInt8* path, FSRef* ref, Boolean* isDirectory) {
+    if (!path || !ref || !*path) return kFSStatusBadParam;
+    const std::string in(reinterpret_cast<const char*>(path));
+    std::string out;
+    out.reserve(in.size());
+    for (size_t i = 0; i < in.size();) {
+        if (in[i] == '/') {
+            out += '/';
+            ++i;
+            continue;
+        }
+        size_t end = in.find('/', i);
+        if (end == std::string::npos) end = in.size();
+        const std::string component = in.substr(i, end - i);
+        if (component == "." || component == "..") {
+            out += component;
+        } else {
+            std::string stored;
+            if (!stored_name(out, component, stored)) return kFSStatusNotFound;
+            out += stored;
+        }
+        i = end;
+    }
+    struct stat st;
+    if (lstat(out.c_str(), &st) != 0) return kFSStatusNotFound;
+    if (isDirectory) *isDirectory = stat(out.c_str(), &st) == 0 && S_ISDIR(st.st_mode);
+    ref->stored_path = out;
+    return 0;
+}
+
+OSStatus FSRefMakePath(const FSRef* ref, UInt8* path, UInt32 maxPathSize) {
+    if (!ref || !path) return kFSStatusBadParam;
+    const std::string& stored = ref->stored_path;
+    if (stored.size() + 1 > maxPathSize) return kFSStatusPathTooLong;
+    memcpy(path, stored.c_str(), stored.size() + 1);
+    return 0;
+}
+
+const char* FSFileSystemTypeNameOfMagic(unsigned long magic) {
+    switch (magic) {
+    case NFS_SUPER_MAGIC: return "nfs";
+    case SMB_SUPER_MAGIC:
+    case CIFS_SUPER_MAGIC:
+    case SMB2_SUPER_MAGIC: return "smbfs";
+    case MSDOS_SUPER_MAGIC: return "msdos";  // vfat shares it
+    case EXFAT_SUPER_MAGIC: return "exfat";
+    case 0x482b: return "hfs";  // hfsplus
+    case EXT4_SUPER_MAGIC: return "ext4";  // ext2 and ext3 share it
+    case BTRFS_SUPER_MAGIC: return "btrfs";
+    case XFS_SUPER_MAGIC: return "xfs";
+    case TMPFS_MAGIC: return "tmpfs";
+    case OVERLAYFS_SUPER_MAGIC: return "overlay";
+    case FUSE_SUPER_MAGIC: return "fuse";
+    default: return "unknown";
+    }
+}
+
+int FSFileSystemTypeName(const char* path, std::string& name) {
+    struct statfs st;
+    if (statfs(path, &st) != 0) return -1;
+    name = FSFileSystemTypeNameOfMagic(static_cast<unsigned long>(st.f_type));
+    return 0;
+}
