@@ -13,8 +13,7 @@ const char* ktab[kStrCount];  // key of id i
 
 }  // namespace
 
-void InitStrTable()
-{
+void InitStrTable() {
     stab[0] = QT_TRANSLATE_NOOP("global", "Lumora has stopped syncing because of an unexpected problem. Please check the connection status."); ktab[0] = "notify_abnormal";
     stab[1] = QT_TRANSLATE_NOOP("global", "Enable Sharing"); ktab[1] = "manage_share_enable";
     stab[2] = QT_TRANSLATE_NOOP("global", "Standby"); ktab[2] = "title_standby";
@@ -367,8 +366,7 @@ void InitStrTable()
     stab[349] = QT_TRANSLATE_NOOP("global", "{\\VerdanaBold13}Completed the [ProductName] Setup Wizard"); ktab[349] = "msi_exit_dlg_subtitle";
 }
 
-QString LoadStr(int id)
-{
+QString LoadStr(int id) {
     if (id < 0 || id >= kStrCount)
         return QString();
     if (!stab[id])
@@ -379,8 +377,7 @@ QString LoadStr(int id)
     return s;
 }
 
-int LookupStrID(QString key)
-{
+int LookupStrID(QString key) {
     const QByteArray local = key.toLocal8Bit();
     for (int id = 0; id < kStrCount; ++id) {
         if (ktab[id] && qstricmp(local.constData(), ktab[id]) == 0)
