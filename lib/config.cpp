@@ -86,9 +86,8 @@ int Config::read(const ustring& path) {
     return 0;
 }
 
-int Config::get_int(const ustring& key) {
-    const unsigned char* p = reinterpret_cast<const unsigned char*>(entries[key].c_str());
-    p = skip_space(p);
+int parse_leading_int(const char* text) {
+    const unsigned char* p = skip_space(reinterpret_cast<const unsigned char*>(text));
     const bool negative = *p == '-';
     if (*p == '-' || *p == '+') ++p;
     if (*p < '0' || *p > '9') return 0;
@@ -102,3 +101,5 @@ int Config::get_int(const ustring& key) {
     }
     return static_cast<int>(value);
 }
+
+int Config::get_int(const ustring& key) { return parse_leading_int(entries[key].c_str()); }

@@ -12,6 +12,10 @@
 
 #include "ustring.h"
 
+// The leading decimal integer of text as atoi or a stream reads it: leading whitespace, optional
+// sign, digits up to the first non-digit; 0 when there are none. Saturates to INT_MAX / INT_MIN.
+int parse_leading_int(const char* text);
+
 class Config {
 public:
     // Adds the file's entries (a later key replaces an earlier one). 0 when the whole file was

@@ -10,10 +10,15 @@
 #include <linux/magic.h>
 #include <sys/stat.h>
 #include <sys/vfs.h>
+#include <unistd.h>
 #include <unicode/uchar.h>
 #include <unicode/ustring.h>
 
+#include <climits>
+#include <cstdlib>
 #include <cstring>
+#include <fstream>
+#include <string>
 
 #include "fs-platform-linux.h"
 #include "ustring.h"
@@ -144,4 +149,45 @@ int FSFileSystemTypeName(const char* path, std::string& name) {
     if (statfs(path, &st) != 0) return -1;
     name = FSFileSystemTypeNameOfMagic(static_cast<unsigned long>(st.f_type));
     return 0;
+}
+
+namespace {
+
+// realpath, or empty when the path cannot be resolved.
+std::string resolved(const std::string& path) {
+    char buf[PATH_MAX];
+    return realpath(path.c_str(), buf) ? std::string(buf) : std::string();
+}
+
+// The first arguments of a command line: the program, then (for an interpreter) its options
+// and the script. Relative names are taken from the process's working folder.
+bool command_line_names(const std::string& proc, const std::string& target, bool& readable) {
+    std::ifstream in(proc + "/cmdline", std::ios::binary);
+    std::string arg;
+    readable = false;
+    for (int i = 0; i < 3 && std::getline(in, arg, '\0'); ++i) {
+        readable = true;
+        if (arg.empty()) continue;
+        const std::string path = arg[0] == '/' ? arg : proc + "/cwd/" + arg;
+        if (resolved(path) == target) return true;
+    }
+    return false;
+}
+
+}  // namespace
+
+int FSProcessRunsProgram(long pid, const char* program_path) {
+    const std::string target = resolved(program_path);
+    if (pid <= 0 || target.empty()) return -1;
+    const std::string proc = "/proc/" + std::to_string(pid);
+
+    char exe[PATH_MAX];
+    const ssize_t n = readlink((proc + "/exe").c_str(), exe, sizeof exe - 1);
+    if (n > 0) {
+        exe[n] = 0;
+        if (resolved(exe) == target) return 1;
+    }
+    bool readable = false;
+    if (command_line_names(proc, target, readable)) return 1;
+    return n > 0 || readable ? 0 : -1;
 }

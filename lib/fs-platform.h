@@ -37,4 +37,9 @@ OSStatus FSRefMakePath(const FSRef* ref, UInt8* path, UInt32 maxPathSize);
 // "smbfs", "afpfs", "msdos", ... 0, or -1 with errno set.
 int FSFileSystemTypeName(const char* path, std::string& name);
 
+// Whether process pid runs the program at program_path: its executable, or for an interpreted
+// script the script named in its command line, is that file (links resolved). 1 yes, 0 no,
+// -1 when the process's identity cannot be read (gone, a zombie, or not ours to inspect).
+int FSProcessRunsProgram(long pid, const char* program_path);
+
 #endif

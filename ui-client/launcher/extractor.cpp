@@ -1,0 +1,180 @@
+#include "extractor.h"
+
+#include <archive.h>
+#include <archive_entry.h>
+
+#include <cstdio>
+
+#include "log.h"
+#include "notify-adapter.h"
+#include "strtable.h"
+
+namespace {
+
+const ustring& component() {
+    static const ustring name("extractor_debug");
+    return name;
+}
+
+const size_t kBlockSize = 10240;
+// ARCHIVE_EXTRACT_UNLINK | ARCHIVE_EXTRACT_SECURE_NODOTDOT | ARCHIVE_EXTRACT_MAC_METADATA
+const int kExtractFlags = 0x2210;
+const int kPreparingTextId = 340;
+
+const char* error_of(archive* a) {
+    const char* text = archive_error_string(a);
+    return text ? text : "";
+}
+
+// Opens a reader of every filter and format, or logs why not and returns null.
+archive* open_reader(const ustring& path) {
+    archive* reader = archive_read_new();
+    if (!reader) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, component(), "[ERROR] extractor.cpp(%d): Allocate archive failed\n", __LINE__);
+        return nullptr;
+    }
+    archive_read_support_filter_all(reader);
+    archive_read_support_format_all(reader);
+    if (archive_read_open_filename(reader, path.c_str(), kBlockSize) != ARCHIVE_OK) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, component(), "[ERROR] extractor.cpp(%d): archive_read_open_filename failed: '%s'\n",
+                       __LINE__, error_of(reader));
+        archive_read_free(reader);
+        return nullptr;
+    }
+    return reader;
+}
+
+}  // namespace
+
+int Extractor::Count() {
+    if (dest_path.empty() || archive_path.empty()) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, component(), "[ERROR] extractor.cpp(%d): Invalid argument\n", __LINE__);
+        return -1;
+    }
+    archive* reader = open_reader(archive_path);
+    if (!reader) return -1;
+    int count = 0;
+    archive_entry* entry;
+    while (archive_read_next_header(reader, &entry) == ARCHIVE_OK) {
+        ++count;
+        archive_read_data_skip(reader);
+    }
+    archive_read_free(reader);
+    return count;
+}
+
+int Extractor::List() {
+    if (dest_path.empty() || archive_path.empty()) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, component(), "[ERROR] extractor.cpp(%d): Invalid argument\n", __LINE__);
+        return -1;
+    }
+    archive* reader = open_reader(archive_path);
+    if (!reader) return -1;
+    archive_entry* entry;
+    while (archive_read_next_header(reader, &entry) == ARCHIVE_OK) {
+        const char* name = archive_entry_pathname(entry);
+        printf("%s\n", name ? name : "");
+        fflush(stdout);
+        archive_read_data_skip(reader);
+    }
+    archive_read_close(reader);
+    archive_read_free(reader);
+    return 0;
+}
+
+int Extractor::Extract() {
+    if (archive_path.empty() || dest_path.empty()) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, component(), "[ERROR] extractor.cpp(%d): Invalid Argument\n", __LINE__);
+        return -1;
+    }
+    Logger::LogMsg(Logger::LEVEL_DEBUG, component(), "[DEBUG] extractor.cpp(%d): decompress from '%s' to '%s'\n", __LINE__,
+                   archive_path.c_str(), dest_path.c_str());
+    Notify_Adapter::GetInstance()->UpdateDialogText(StrTable::LoadStr(kPreparingTextId));
+
+    const int total = Count();
+    if (total < 1) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, component(),
+                       "[ERROR] extractor.cpp(%d): Failed to calculate total file numbers, ret: %d\n", __LINE__, total);
+        return -1;
+    }
+
+    archive* reader = archive_read_new();
+    if (!reader) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, component(), "[ERROR] extractor.cpp(%d): Allocate extractor failed\n", __LINE__);
+        return -1;
+    }
+    archive* writer = archive_write_disk_new();
+    if (!writer) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, component(), "[ERROR] extractor.cpp(%d): Allocate extractor failed\n", __LINE__);
+        archive_read_free(reader);
+        return -1;
+    }
+    archive_write_disk_set_options(writer, kExtractFlags);
+    archive_read_support_filter_all(reader);
+    archive_read_support_format_all(reader);
+
+    int result = 0;
+    if (archive_read_open_filename(reader, archive_path.c_str(), kBlockSize) != ARCHIVE_OK) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, component(), "[ERROR] extractor.cpp(%d): Failed to read file '%s' ('%s')\n",
+                       __LINE__, archive_path.c_str(), error_of(reader));
+        result = -1;
+    }
+    for (int i = 1; result == 0; ++i) {
+        archive_entry* entry;
+        const int rc = archive_read_next_header(reader, &entry);
+        if (rc == ARCHIVE_EOF) break;
+        if (rc != ARCHIVE_OK) {
+            Logger::LogMsg(Logger::LEVEL_ERROR, component(), "[ERROR] extractor.cpp(%d): archive_read_next_header failed: '%s'\n",
+                           __LINE__, error_of(reader));
+            result = -1;
+            break;
+        }
+        const char* name = archive_entry_pathname(entry);
+        if (!name) {
+            Logger::LogMsg(Logger::LEVEL_ERROR, component(), "[ERROR] extractor.cpp(%d): entry %d has no path name\n",
+                           __LINE__, i);
+            result = -1;
+            break;
+        }
+        archive_entry_set_pathname(entry, (dest_path + "/" + name).c_str());
+        if (archive_read_extract2(reader, entry, writer) != ARCHIVE_OK) {
+            Logger::LogMsg(Logger::LEVEL_ERROR, component(), "[ERROR] extractor.cpp(%d): archive_read_extract2 failed: '%s'\n",
+                           __LINE__, error_of(writer));
+            result = -1;
+            break;
+        }
+        Notify_Adapter::GetInstance()->UpdateProgress(total, i);
+        if (archive_write_finish_entry(writer) != ARCHIVE_OK) {
+            Logger::LogMsg(Logger::LEVEL_ERROR, component(), "[ERROR] extractor.cpp(%d): archive_write_finish_entry failed: '%s'\n",
+                           __LINE__, error_of(writer));
+            result = -1;
+        }
+    }
+    archive_read_free(reader);
+    archive_write_free(writer);
+    return result;
+}
+
+int Extractor::copy_data(archive* in, archive* out) {
+    if (!in || !out) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, component(), "[ERROR] extractor.cpp(%d): Invalid Argument\n", __LINE__);
+        return -1;
+    }
+    for (;;) {
+        const void* buffer;
+        size_t size;
+        la_int64_t offset;
+        const int rc = archive_read_data_block(in, &buffer, &size, &offset);
+        if (rc == ARCHIVE_EOF) return 0;
+        if (rc != ARCHIVE_OK) {
+            Logger::LogMsg(Logger::LEVEL_ERROR, component(), "[ERROR] extractor.cpp(%d): archive_read_data_block failed: '%s'\n",
+                           __LINE__, error_of(in));
+            return -1;
+        }
+        if (archive_write_data_block(out, buffer, size, offset) != ARCHIVE_OK) {
+            Logger::LogMsg(Logger::LEVEL_ERROR, component(), "[ERROR] extractor.cpp(%d): archive_write_data_block failed: '%s'\n",
+                           __LINE__, error_of(out));
+            return -1;
+        }
+    }
+}
