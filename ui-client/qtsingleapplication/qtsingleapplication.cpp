@@ -1,0 +1,65 @@
+#include "qtsingleapplication.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <QDir>
+#include <QFile>
+#include <QLocalServer>
+
+namespace {
+
+// Letters only, at most six, of the executable's file name.
+QString letters_of(const QString& file_name) {
+    QString prefix;
+    for (QChar c : file_name)
+        if ((c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z')) prefix += c;
+    return prefix.left(6);
+}
+
+}  // namespace
+
+QtSingleApplication::QtSingleApplication(int& argc, char** argv, bool GUIenabled)
+    : QApplication(argc, argv, GUIenabled) {
+    id_ = QCoreApplication::applicationFilePath();
+    const QByteArray utf8 = id_.toUtf8();
+    const quint16 crc = qChecksum(utf8.constData(), static_cast<uint>(utf8.size()));
+    socket_name_ = QStringLiteral("qtsingleapp-") + letters_of(id_.section(QLatin1Char('/'), -1)) +
+                   QLatin1Char('-') + QString::number(crc, 16) + QLatin1Char('-') +
+                   QString::number(::getuid(), 16);
+    lock_name_ = QDir(QDir::tempPath()).absolutePath() + QLatin1Char('/') + socket_name_ + QStringLiteral("-lockfile");
+}
+
+QtSingleApplication::~QtSingleApplication() {
+    if (lock_fd_ >= 0) ::close(lock_fd_);  // closing drops the lock
+}
+
+bool QtSingleApplication::isRunning() {
+    if (!guard_checked_) {
+        other_running_ = !takeGuard();
+        guard_checked_ = true;
+    }
+    return other_running_;
+}
+
+// False when another process holds the lock. A lock file we cannot even open is no proof of a
+// running instance, so it does not stop this one.
+bool QtSingleApplication::takeGuard() {
+    lock_fd_ = ::open(QFile::encodeName(lock_name_).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
+    if (lock_fd_ < 0) return true;
+    struct flock lock = {};
+    lock.l_type = F_WRLCK;
+    lock.l_whence = SEEK_SET;
+    if (::fcntl(lock_fd_, F_SETLK, &lock) != 0) {
+        ::close(lock_fd_);
+        lock_fd_ = -1;
+        return false;
+    }
+    server_ = new QLocalServer(this);
+    if (!server_->listen(socket_name_)) {
+        // A socket file left by a crashed instance: we hold the lock, so it is stale.
+        QLocalServer::removeServer(socket_name_);
+        server_->listen(socket_name_);
+    }
+    return true;
+}

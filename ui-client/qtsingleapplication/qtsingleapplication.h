@@ -1,0 +1,43 @@
+// QtSingleApplication: an application object that knows whether another instance of the same
+// executable already runs for this user.
+//
+// Identity: the executable's full path. The guard is a lock file in QDir::tempPath() named
+// "qtsingleapp-<up to 6 letters of the file name>-<hex CRC-16 of the path>-<hex uid>-lockfile",
+// held with an fcntl write lock for the life of the process: the kernel drops it when the
+// process ends, so a crashed instance never blocks the next start, and of two instances started
+// together exactly one gets it. The first instance also listens on a local socket of that name.
+#ifndef UI_CLIENT_QTSINGLEAPPLICATION_QTSINGLEAPPLICATION_H
+#define UI_CLIENT_QTSINGLEAPPLICATION_QTSINGLEAPPLICATION_H
+
+#include <QApplication>
+#include <QString>
+
+class QLocalServer;
+
+class QtSingleApplication : public QApplication {
+    Q_OBJECT
+
+public:
+    QtSingleApplication(int& argc, char** argv, bool GUIenabled = true);
+    ~QtSingleApplication() override;
+
+    // True when another instance holds the guard. The first call takes the guard if it is free.
+    bool isRunning();
+
+    QString id() const { return id_; }
+    QString socketName() const { return socket_name_; }
+    QString lockFileName() const { return lock_name_; }
+
+private:
+    bool takeGuard();
+
+    QString id_;
+    QString socket_name_;
+    QString lock_name_;
+    int lock_fd_ = -1;
+    bool guard_checked_ = false;
+    bool other_running_ = false;
+    QLocalServer* server_ = nullptr;
+};
+
+#endif
