@@ -19,8 +19,9 @@ QString letters_of(const QString& file_name) {
 
 }  // namespace
 
-QtSingleApplication::QtSingleApplication(int& argc, char** argv, bool GUIenabled)
-    : QApplication(argc, argv, GUIenabled) {
+// Qt 5's QApplication always has a GUI (its third parameter is an internal version value, not a
+// switch), so GUIenabled is accepted for compatibility and not passed on.
+QtSingleApplication::QtSingleApplication(int& argc, char** argv, bool /*GUIenabled*/) : QApplication(argc, argv) {
     id_ = QCoreApplication::applicationFilePath();
     const QByteArray utf8 = id_.toUtf8();
     const quint16 crc = qChecksum(utf8.constData(), static_cast<uint>(utf8.size()));

@@ -1,0 +1,20 @@
+// Takes the single-instance guard and reports: prints "running" when another instance holds it,
+// else "first" and then holds it for the number of milliseconds in argv[1] (default 0).
+#include <QTimer>
+
+#include <cstdio>
+#include <cstdlib>
+
+#include "qtsingleapplication.h"
+
+int main(int argc, char** argv) {
+    QtSingleApplication app(argc, argv, false);
+    if (app.isRunning()) {
+        std::printf("running\n");
+        return 0;
+    }
+    std::printf("first\n");
+    std::fflush(stdout);
+    QTimer::singleShot(argc > 1 ? std::atoi(argv[1]) : 0, &app, &QCoreApplication::quit);
+    return app.exec();
+}
