@@ -1,1 +1,188 @@
-// being written
+// The launcher's parts: dialog, wiring, a whole run and the slots; the single-instance guard; the packager.
+#include <gtest/gtest.h>
+#include <sys/prctl.h>
+#include <sys/wait.h>
+
+#include <QLocalServer>
+#include <QPushButton>
+#include <QtTest>
+
+#include "launcher.h"
+#include "notify-adapter.h"
+#include "progress-dialog.h"
+#include "qtsingleapplication.h"
+#include "strtable.h"
+#include "test-support.h"
+
+int qInitResources_texts();
+using namespace testsupport;
+
+QString q(const std::string& s) { return QString::fromStdString(s); }
+void PrintTo(const QString& s, std::ostream* os) { *os << '"' << s.toStdString() << '"'; }
+
+// A child run to its end: exit code (-1 when it crashed), standard output, standard error.
+std::tuple<int, QByteArray, QByteArray> run(const QString& program, const QStringList& args) {
+    QProcess p;
+    p.start(program, args);
+    p.waitForFinished(60000);
+    return {p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1, p.readAllStandardOutput(), p.readAllStandardError()};
+}
+
+QStringList g_wiring;
+
+// Leaks of the system's font configuration and of Qt's offscreen platform, not ours.
+extern "C" const char* __lsan_default_suppressions() { return "leak:libfontconfig.so\nleak:libqoffscreen.so\n"; }
+
+TEST(Dialog, BuiltHiddenByItsConstructorInTheInstalledLanguage) {
+    StrTable::InitStrTable();
+    ProcessingProgressDialog d;
+    EXPECT_EQ(d.windowTitle() + "|" + d.labelText(), "Quennet Lumora|Lumora is initializing...");
+    // Exactly these two hints; Qt itself marks a widget without parent as a window.
+    EXPECT_EQ(d.windowFlags(), Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint);
+    EXPECT_EQ(QVector<int>({d.minimum(), d.maximum(), d.value(), d.minimumWidth(), d.maximumWidth()}),
+              QVector<int>({0, 100, 0, 400, 400}));
+    EXPECT_EQ(d.font().family(), "Arial");
+    EXPECT_EQ(d.windowModality(), Qt::WindowModal);
+    EXPECT_EQ(d.styleSheet(), " QProgressDialog { background-color: WhiteSmoke; \n  vertical-align: middle } ");
+    EXPECT_FALSE(d.isVisible());
+
+    qInitResources_texts();
+    QTranslator german;
+    ASSERT_TRUE(german.load(":/deu.qm") && QCoreApplication::installTranslator(&german));
+    ProcessingProgressDialog de;
+    QCoreApplication::removeTranslator(&german);
+    EXPECT_EQ(de.windowTitle() + "|" + de.labelText(), "Quennet Lumora|Lumora wird initialisiert ...");
+}
+
+// Over a current per-user install: client started, dialog never shown, loop ends with 0; then the slots.
+TEST(Launcher, CurrentInstallStartsTheClientThenSlotsDriveTheDialog) {
+    TempDir tmp;
+    const std::string app = tmp / "home/.Lumora/app";
+    QDir().mkpath(q(app + "/bin"));
+    make_tree(app, {{"/INFO", "[Version]\nbuild_version=1\n"}, {"/bin/lumora-ui", "#!/bin/sh\necho $$ > '" + tmp / "ran" + "'\n"}});
+    chmod((app + "/bin/lumora-ui").c_str(), 0755);
+    const QByteArray home = qgetenv("HOME");
+    qputenv("HOME", QByteArray::fromStdString(tmp / "home"));
+    StrTable::InitStrTable();
+    Launcher launcher;  // its dialog has no parent link: it is the one window alive
+    // Closing the dialog's window must not end the loop before LaunchDone.
+    EXPECT_FALSE(QGuiApplication::quitOnLastWindowClosed());
+    auto* d = dynamic_cast<ProcessingProgressDialog*>(QApplication::topLevelWidgets().value(0));
+    ASSERT_NE(d, nullptr);
+    EXPECT_TRUE(d->findChildren<QPushButton*>().isEmpty());
+
+    // The debug dump is the only public view of both ends of the launcher's connections.
+    const QtMessageHandler previous = qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& m) {
+        if (m.contains("--> ") || m.contains("<-- ")) g_wiring << m.simplified();
+    });
+    launcher.dumpObjectInfo();
+    qInstallMessageHandler(previous);
+    g_wiring.sort();
+    EXPECT_EQ(g_wiring.join(";"), "--> Worker::unnamed HandleServicce();<-- Notify_Adapter::unnamed SetLabelText(QString);<-- "
+                                  "Notify_Adapter::unnamed UpdateProgress(int,int);<-- Worker::unnamed LaunchDone();<-- Worker::unnamed "
+                                  "SetLabelText(QString);<-- Worker::unnamed ShowMsgBox();<-- Worker::unnamed UpdateProgress(int,int)");
+
+    launcher.Run();
+    launcher.Start();
+    EXPECT_EQ(QApplication::exec(), 0);
+    qputenv("HOME", home);
+    EXPECT_EQ(d->windowHandle(), nullptr);  // never shown: no window was ever made
+    ASSERT_TRUE(QTest::qWaitFor([&] { return exists(tmp / "ran") && read_file(tmp / "ran").back() == '\n'; }, 10000));
+    waitpid(std::stoi(read_file(tmp / "ran")), nullptr, 0);
+
+    // (100, 100) first: with auto-reset on, reaching the maximum would reset the bar.
+    for (const auto& p : {std::array<int, 3>{100, 100, 100}, {7, 3, 42}, {400, 0, 0}, {3, 2, 66}, {3, 1, 33}}) {
+        QMetaObject::invokeMethod(&launcher, "UpdateProgress", Q_ARG(int, p[0]), Q_ARG(int, p[1]));
+        EXPECT_EQ(d->value(), p[2]) << p[0] << ", " << p[1];
+    }
+    // Reports from another thread arrive as queued calls, run by the main thread.
+    Notify_Adapter* adapter = Notify_Adapter::GetInstance();
+    std::unique_ptr<QThread> reporter(QThread::create([=] { adapter->UpdateProgress(3, 2), adapter->UpdateDialogText("Entpacken"); }));
+    reporter->start();
+    reporter->wait();
+    EXPECT_EQ(d->value(), 33);
+    QCoreApplication::sendPostedEvents();
+    EXPECT_EQ(d->value(), 66);
+    EXPECT_EQ(d->labelText(), "Entpacken");
+    QMetaObject::invokeMethod(&launcher, "ShowMsgBox");
+    EXPECT_TRUE(d->isVisible());
+}
+
+TEST(SingleInstance, NamesComeFromTheExecutablePathAndTheUser) {
+    auto* single = qobject_cast<QtSingleApplication*>(qApp);  // "launcher_test": six letters at most
+    const QByteArray path = QCoreApplication::applicationFilePath().toUtf8();
+    const QString name = "qtsingleapp-launch-" + QString::number(qChecksum(path.constData(), path.size()), 16) + "-" +
+                         QString::number(getuid(), 16);
+    EXPECT_EQ(single->socketName(), name);
+    EXPECT_EQ(single->lockFileName(), QDir::tempPath() + "/" + name + "-lockfile");
+}
+
+QString said(QProcess& p) {
+    while (!p.canReadLine() && p.waitForReadyRead(10000)) continue;
+    return QString::fromUtf8(p.readLine()).trimmed();
+}
+
+TEST(SingleInstance, OneHolderAtATimeAndAnEndedOneFreesTheGuard) {
+    TempDir tmp;
+    // Each holds the guard hold_ms if it gets it; its temp folder is ours. Qt's leaks at its exit are not the guard's.
+    const auto start_probe = [&tmp](int hold_ms) {
+        auto p = std::make_unique<QProcess>();
+        p->start("env", {"ASAN_OPTIONS=detect_leaks=0", "TMPDIR=" + q(tmp.path()), GUARD_PROBE, QString::number(hold_ms)});
+        return p;
+    };
+    auto holder = start_probe(1500);
+    ASSERT_EQ(said(*holder), "first");
+    EXPECT_EQ(said(*start_probe(0)), "running");
+    holder->kill();  // a crashed instance: its lock file and socket stay behind
+    holder->waitForFinished();
+    // Each round starts after both of the last one have ended normally.
+    for (int round = 0; round < 10; ++round) {
+        auto a = start_probe(1000), b = start_probe(1000);
+        EXPECT_EQ(QSet<QString>({said(*a), said(*b)}), QSet<QString>({"first", "running"})) << "together, round " << round;
+        a->waitForFinished(), b->waitForFinished();
+    }
+}
+
+TEST(Packager, RefusesUnsafeFoldersAndWritesInfoLast) {
+    const std::string info = "[Version]\nbuild_version=7\n";
+    std::unique_ptr<QLocalServer> server;
+    const std::tuple<const char*, const char*, std::function<void(const std::string&)>> cases[] = {
+        {"tar.gz", "good", nullptr}, {"zip", "good", nullptr}, {"7z", "good", nullptr},
+        {"tar.gz", "hard link", [](const std::string& d) { link((d + "/a").c_str(), (d + "/hard").c_str()); }},
+        {"tar.gz", "absolute symlink", [](const std::string& d) { make_link("/etc/hostname", d + "/abs"); }},
+        {"tar.gz", "symlink leading outside", [](const std::string& d) { make_link("../../elsewhere", d + "/bin/up"); }},
+        {"tar.gz", "FIFO", [](const std::string& d) { mkfifo((d + "/fifo").c_str(), 0600); }},
+        {"zip", "socket", [&](const std::string& d) { (server = std::make_unique<QLocalServer>())->listen(q(d + "/s")); }},
+        {"tar.gz", "name not UTF-8", [](const std::string& d) { write_file(d + "/bad\xff", "x"); }},
+        {"tar.gz", "no INFO", [](const std::string& d) { unlink((d + "/INFO").c_str()); }},
+        {"7z", "INFO without numeric build", [](const std::string& d) { write_file(d + "/INFO", "[Version]\nbuild_version=v7\n"); }},
+    };
+    for (const auto& [format, what, twist] : cases) {
+        TempDir tmp;
+        // Names that sort after INFO, and a link that stays inside.
+        make_tree(tmp.path(), {{"/c", "/"}, {"/c/INFO", info}, {"/c/a", "a"}, {"/c/bin", "/"}, {"/c/bin/lumora-ui", "ui"},
+                               {"/c/bin/ui", "->lumora-ui"}, {"/c/zz", "z"}});
+        if (twist) twist(tmp / "c");
+        const auto [rc, out, err] = run(MAKE_PACKAGE, {"--format", format, q(tmp / "c"), q(tmp / "out")});
+        server.reset();
+        if (twist) {
+            EXPECT_EQ(rc, 1) << what;
+            EXPECT_TRUE(err.startsWith("make-package: ")) << what << ": " << err.toStdString();
+            EXPECT_FALSE(exists(tmp / "out")) << what;
+            continue;
+        }
+        ASSERT_EQ(rc, 0) << format << ": " << err.toStdString();
+        const QByteArray listed = std::get<1>(run("bsdtar", {"-tf", q(tmp / "out/lumora.lpk")}));
+        const QStringList files = QString::fromUtf8(listed).split('\n', Qt::SkipEmptyParts).filter(QRegularExpression("[^/]$"));
+        EXPECT_EQ(files.value(files.size() - 1), "INFO") << format;
+        EXPECT_EQ(read_file(tmp / "out/INFO"), info) << format;
+    }
+}
+
+int main(int argc, char** argv) {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    ::testing::InitGoogleTest(&argc, argv);
+    prctl(PR_SET_CHILD_SUBREAPER, 1);  // the client a run starts is detached: reparented here, reaped
+    QtSingleApplication app(argc, argv, true);
+    return RUN_ALL_TESTS();
+}
