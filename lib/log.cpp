@@ -100,14 +100,15 @@ void Logger::LogMsg(Level level, const ustring& component, const char* format, .
     va_end(args);
 }
 
+// The stream is tested under the lock: a rotation closes and reopens it, and a test without the
+// lock would see it missing for that moment and drop the messages of every other thread.
 void Logger::LogMsg2(Level level, const ustring& component, const char* format, va_list args) {
-    if (log_type != TYPE_SYSLOG && !log_fp) return;
-
     int cancel_state;
     pthread_setcancelstate(PTHREAD_CANCEL_DISABLE, &cancel_state);
     pthread_mutex_lock(&log_lock);
 
-    if (threshold_of(component) >= level) {
+    const bool has_destination = log_type == TYPE_SYSLOG || log_fp;
+    if (has_destination && threshold_of(component) >= level) {
         int written = -1;
         switch (log_type) {
         case TYPE_SYSLOG:
