@@ -104,6 +104,8 @@ void ustring::init() {
 }
 
 // --- assignment ------------------------------------------------------------------------------
+// A source inside our own buffers stays safe after clear(): the append functions copy it out or
+// keep its offset across the reallocation.
 
 ustring& ustring::assign(const ustring& s, uint32_t pos, uint32_t n) {
     ustring part = s.substr(pos, n);  // taken first, so s may be *this
@@ -113,11 +115,6 @@ ustring& ustring::assign(const ustring& s, uint32_t pos, uint32_t n) {
 
 ustring& ustring::assign(const char* s) {
     if (s == data) return *this;
-    if (s && points_into(s, data, data_cap)) {
-        std::string copy(s);  // clear() would leave the source in a buffer we may shrink
-        clear();
-        return append(copy.c_str());
-    }
     clear();
     return s ? append(s) : *this;
 }
@@ -127,14 +124,9 @@ ustring& ustring::assign(const char* s, uint32_t n) {
         if (n < data_len) {
             data_len = n;
             data[n] = 0;
-            invalidate_wdata();
+            clear_wdata();
         }
         return *this;
-    }
-    if (s && points_into(s, data, data_cap)) {
-        std::string copy(s, strnlen(s, n));
-        clear();
-        return append(copy.c_str(), n);
     }
     clear();
     return s ? append(s, n) : *this;
@@ -153,11 +145,6 @@ ustring& ustring::assign(const unsigned short* s, uint32_t n) {
             convert_from_wdata();
         }
         return *this;
-    }
-    if (s && points_into(s, wdata, wdata_cap * sizeof(unsigned short))) {
-        std::basic_string<unsigned short> copy(s, units_len(s, n));
-        clear();
-        return append(copy.c_str(), n);
     }
     clear();
     return s ? append(s, n) : *this;
@@ -201,8 +188,6 @@ void ustring::clear_wdata() const {
     wdata[0] = 0;
 }
 
-void ustring::invalidate_wdata() const { clear_wdata(); }
-
 void ustring::swap(ustring& s) {
     std::swap(data, s.data);
     std::swap(data_len, s.data_len);
@@ -231,7 +216,7 @@ ustring& ustring::append_bytes(const char* s, uint32_t n) {
     memcpy(data + data_len, s, n);
     data_len += n;
     data[data_len] = 0;
-    invalidate_wdata();
+    clear_wdata();
     return *this;
 }
 
@@ -275,7 +260,7 @@ ustring& ustring::append(char c, uint32_t n) {
     memset(data + data_len, c, n);
     data_len += n;
     data[data_len] = 0;
-    invalidate_wdata();
+    clear_wdata();
     return *this;
 }
 
@@ -290,10 +275,6 @@ ustring& ustring::append(unsigned short c, uint32_t n) {
 }
 
 ustring& ustring::append(const ustring& s, uint32_t pos, uint32_t n) {
-    if (&s == this) {
-        ustring part = s.substr(pos, n);
-        return append_bytes(part.data, part.data_len);
-    }
     if (pos > s.data_len) throw std::out_of_range("substr");
     uint32_t count = s.data_len - pos;
     if (n < count) count = n;
@@ -322,7 +303,7 @@ const unsigned short* ustring::c_str_utf16() const {
 }
 
 char& ustring::operator[](uint32_t n) {
-    invalidate_wdata();
+    clear_wdata();
     return data[n];
 }
 
@@ -338,7 +319,7 @@ ustring ustring::substr(uint32_t pos, uint32_t n) const {
 void ustring::replace(char a, char b) {
     for (uint32_t i = 0; i < data_len; ++i)
         if (data[i] == a) data[i] = b;
-    invalidate_wdata();
+    clear_wdata();
 }
 
 // --- buffers and conversions -----------------------------------------------------------------
@@ -510,7 +491,7 @@ void ustring::ltrim(const char* set) {
     memmove(data, data + skip, data_len - skip);
     data_len -= skip;
     data[data_len] = 0;
-    invalidate_wdata();
+    clear_wdata();
 }
 
 void ustring::rtrim(const char* set) {
@@ -519,7 +500,7 @@ void ustring::rtrim(const char* set) {
     if (len == data_len) return;
     data_len = len;
     data[len] = 0;
-    invalidate_wdata();
+    clear_wdata();
 }
 
 void ustring::trim(const char* set) {

@@ -151,7 +151,6 @@ public:
 private:
     ustring& append_bytes(const char* s, uint32_t n);
     ustring& append_units(const unsigned short* s, uint32_t n, bool own_view);
-    void invalidate_wdata() const;
 };
 
 void swap(ustring& a, ustring& b);
