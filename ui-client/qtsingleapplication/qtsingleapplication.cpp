@@ -1,11 +1,14 @@
 #include "qtsingleapplication.h"
 
 #include <fcntl.h>
+#include <sys/socket.h>
+#include <sys/un.h>
 #include <unistd.h>
+
+#include <cstring>
 
 #include <QDir>
 #include <QFile>
-#include <QLocalServer>
 
 namespace {
 
@@ -28,10 +31,15 @@ QtSingleApplication::QtSingleApplication(int& argc, char** argv, bool /*GUIenabl
     socket_name_ = QStringLiteral("qtsingleapp-") + letters_of(id_.section(QLatin1Char('/'), -1)) +
                    QLatin1Char('-') + QString::number(crc, 16) + QLatin1Char('-') +
                    QString::number(::getuid(), 16);
-    lock_name_ = QDir(QDir::tempPath()).absolutePath() + QLatin1Char('/') + socket_name_ + QStringLiteral("-lockfile");
+    socket_path_ = QDir(QDir::tempPath()).absolutePath() + QLatin1Char('/') + socket_name_;
+    lock_name_ = socket_path_ + QStringLiteral("-lockfile");
 }
 
 QtSingleApplication::~QtSingleApplication() {
+    if (socket_fd_ >= 0) {
+        ::close(socket_fd_);
+        ::unlink(QFile::encodeName(socket_path_).constData());
+    }
     if (lock_fd_ >= 0) ::close(lock_fd_);  // closing drops the lock
 }
 
@@ -56,11 +64,24 @@ bool QtSingleApplication::takeGuard() {
         lock_fd_ = -1;
         return false;
     }
-    server_ = new QLocalServer(this);
-    if (!server_->listen(socket_name_)) {
-        // A socket file left by a crashed instance: we hold the lock, so it is stale.
-        QLocalServer::removeServer(socket_name_);
-        server_->listen(socket_name_);
-    }
+    listen();
     return true;
+}
+
+// The socket only marks the holder; the lock decides. So a socket that cannot be made (a path too
+// long for sun_path, a folder we may not write) costs nothing but the mark.
+void QtSingleApplication::listen() {
+    const QByteArray path = QFile::encodeName(socket_path_);
+    struct sockaddr_un address = {};
+    if (static_cast<size_t>(path.size()) >= sizeof address.sun_path) return;
+    address.sun_family = AF_UNIX;
+    std::memcpy(address.sun_path, path.constData(), static_cast<size_t>(path.size()));
+    socket_fd_ = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    if (socket_fd_ < 0) return;
+    ::unlink(path.constData());  // we hold the lock: a socket file of this name is a crashed holder's
+    if (::bind(socket_fd_, reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0 ||
+        ::listen(socket_fd_, SOMAXCONN) != 0) {
+        ::close(socket_fd_);
+        socket_fd_ = -1;
+    }
 }

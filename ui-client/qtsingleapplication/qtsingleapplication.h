@@ -5,14 +5,14 @@
 // "qtsingleapp-<up to 6 letters of the file name>-<hex CRC-16 of the path>-<hex uid>-lockfile",
 // held with an fcntl write lock for the life of the process: the kernel drops it when the
 // process ends, so a crashed instance never blocks the next start, and of two instances started
-// together exactly one gets it. The first instance also listens on a local socket of that name.
+// together exactly one gets it. The first instance also listens on a local socket of that name
+// in the same folder (a plain AF_UNIX socket: no message is ever exchanged, and linking a network
+// module only for it would cost every start a dozen more libraries to load).
 #ifndef UI_CLIENT_QTSINGLEAPPLICATION_QTSINGLEAPPLICATION_H
 #define UI_CLIENT_QTSINGLEAPPLICATION_QTSINGLEAPPLICATION_H
 
 #include <QApplication>
 #include <QString>
-
-class QLocalServer;
 
 class QtSingleApplication : public QApplication {
     Q_OBJECT
@@ -27,17 +27,20 @@ public:
     QString id() const { return id_; }
     QString socketName() const { return socket_name_; }
     QString lockFileName() const { return lock_name_; }
+    QString socketPath() const { return socket_path_; }
 
 private:
     bool takeGuard();
+    void listen();
 
     QString id_;
     QString socket_name_;
     QString lock_name_;
+    QString socket_path_;
     int lock_fd_ = -1;
+    int socket_fd_ = -1;
     bool guard_checked_ = false;
     bool other_running_ = false;
-    QLocalServer* server_ = nullptr;
 };
 
 #endif

@@ -4,6 +4,7 @@
 #include <sys/wait.h>
 
 #include <QLocalServer>
+#include <QLocalSocket>
 #include <QPushButton>
 #include <QtTest>
 
@@ -130,17 +131,33 @@ TEST(SingleInstance, OneHolderAtATimeAndAnEndedOneFreesTheGuard) {
         p->start("env", {"ASAN_OPTIONS=detect_leaks=0", "TMPDIR=" + q(tmp.path()), GUARD_PROBE, QString::number(hold_ms)});
         return p;
     };
+    // The holder listens on "<lock file name without -lockfile>" in the same folder.
+    const QString socket = q(tmp.path()) + "/qtsingleapp-guardp-" +
+                           QString::number(qChecksum(QByteArray(GUARD_PROBE).constData(), sizeof GUARD_PROBE - 1), 16) + "-" +
+                           QString::number(getuid(), 16);
+    const auto listened = [&socket] {
+        QLocalSocket s;
+        s.connectToServer(socket);
+        return s.waitForConnected(2000);
+    };
     auto holder = start_probe(1500);
     ASSERT_EQ(said(*holder), "first");
+    EXPECT_TRUE(listened());
     EXPECT_EQ(said(*start_probe(0)), "running");
     holder->kill();  // a crashed instance: its lock file and socket stay behind
     holder->waitForFinished();
+    EXPECT_FALSE(listened());
     // Each round starts after both of the last one have ended normally.
     for (int round = 0; round < 10; ++round) {
         auto a = start_probe(1000), b = start_probe(1000);
         EXPECT_EQ(QSet<QString>({said(*a), said(*b)}), QSet<QString>({"first", "running"})) << "together, round " << round;
+        if (round == 0) {
+            EXPECT_TRUE(listened()) << "the stale socket replaced";
+        }
         a->waitForFinished(), b->waitForFinished();
     }
+    EXPECT_FALSE(exists(socket.toStdString())) << "an instance that ends removes its socket";
+    EXPECT_TRUE(exists(socket.toStdString() + "-lockfile"));
 }
 
 TEST(Packager, RefusesUnsafeFoldersAndWritesInfoLast) {
