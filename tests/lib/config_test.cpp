@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <climits>
-#include <vector>
+#include <tuple>
 
 #include "config.h"
 #include "test-support.h"
@@ -10,74 +10,41 @@
 namespace {
 
 using Entries = std::map<ustring, ustring>;
-using namespace testsupport;
 
-TEST(Config, ReadsLines) {
-    struct Case { std::string text; int rc; Entries added; };  // added to the seeded entry
-    const std::string v8189(8189, 'v');
-    const std::vector<Case> cases = {
-        {"pid=4711\n", 0, {{"pid", "4711"}}},
-        {"    pid = 4711    # note\n", 0, {{"pid", "4711"}}},
-        {"\t\v\f\r key \v=\f value \r\n", 0, {{"key", "value"}}},
-        {"   \t# pid=1\n      \n", 0, {}},
-        {"a#b=1\n", 0, {}},
-        {"a=b#c\n", 0, {{"a", "b#c"}}},
-        {"name=   \t\n", -1, {}},
-        {"name=''\n", 0, {{"name", ""}}},
-        {"name=\"it's two\"\n", 0, {{"name", "it's two"}}},
-        {"name='a # b'#c\n", 0, {{"name", "a # b"}}},
-        {"name=two words\n", -1, {}},
-        {"name='open\n", -1, {}},
-        {"name='a\tb'\n", -1, {}},
-        {"name='a\x7f'\n", -1, {}},
-        {"name\n", -1, {}},
-        {"=5\n", 0, {{"", "5"}}},
-        {"Az09_.-=v\n", 0, {{"Az09_.-", "v"}}},
-        {"\xc3\xa9=1\n", -1, {}},
-        {"a=x\xc3\xa9y\n", 0, {{"a", "x\xc3\xa9y"}}},
-        {"a='x'\xc3\xa9\n", -1, {}},
-        {"a=x\x01\n", -1, {}},
-        {"a=x\x7fy\n", -1, {}},
-        {"a=1\n[Version]\nc=3\n", -1, {}},
-        {"k=1\nk=2\nseeded=after", 0, {{"k", "2"}, {"seeded", "after"}}},
-        // 8191 bytes fill the read buffer; the rest of the line is a line of its own.
-        {"a=" + v8189 + "x=1\n", 0, {{"a", v8189}, {"x", "1"}}},
-    };
-    TempDir dir;
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.text.substr(0, 40));
-        write_file(dir / "file.conf", c.text);
-        Config cfg;
-        cfg.entries["seeded"] = "before";  // as from an earlier read: kept unless malformed
-        EXPECT_EQ(cfg.read(dir / "file.conf"), c.rc);
-        Entries expected = c.added;
-        if (c.rc == 0) expected.emplace("seeded", "before");
-        EXPECT_EQ(cfg.entries, expected);
+// Each file is read on top of an earlier entry: kept when the read succeeds, gone with a malformed line.
+TEST(Config, ReadsLinesAndEmptiesTheMapOnAMalformedOne) {
+    const std::string v(8189, 'v');  // "a=" + v fills the 8191-byte read buffer: the rest reads as a line of its own
+    const std::tuple<std::string, int, Entries> cases[] = {
+        {"pid=4711\n", 0, {{"pid", "4711"}}}, {"  pid = 4711  # note\n", 0, {{"pid", "4711"}}}, {"n\n", -1, {}},
+        {"\t\v\f\r key \v=\f value \r\n", 0, {{"key", "value"}}}, {"   \t# pid=1\n      \n", 0, {}}, {"a#b=1\n", 0, {}},
+        {"a=b#c\n", 0, {{"a", "b#c"}}}, {"n=''\n", 0, {{"n", ""}}}, {"n='a # b'#c\n", 0, {{"n", "a # b"}}},
+        {"n=\"it's two\"\n", 0, {{"n", "it's two"}}}, {"=5\n", 0, {{"", "5"}}}, {"Az09_.-=v\n", 0, {{"Az09_.-", "v"}}},
+        {"a=x\xc3\xa9y\n", 0, {{"a", "x\xc3\xa9y"}}}, {"k=1\nk=2\nseeded=after", 0, {{"k", "2"}, {"seeded", "after"}}},
+        {"a=" + v + "x=1\n", 0, {{"a", v}, {"x", "1"}}}, {"n=   \t\n", -1, {}}, {"n=two words\n", -1, {}},
+        {"n='open\n", -1, {}}, {"n='a\tb'\n", -1, {}}, {"n='a\x7f'\n", -1, {}}, {"a=1\n[Version]\nc=3\n", -1, {}},
+        {"\xc3\xa9=1\n", -1, {}}, {"a='x'\xc3\xa9\n", -1, {}}, {"a=x\x01\n", -1, {}}, {"a=x\x7fy\n", -1, {}}};
+    testsupport::TempDir dir;
+    for (const auto& [text, rc, added] : cases) {
+        testsupport::write_file(dir / "file.conf", text);
+        Config cfg{{{"seeded", "before"}}};
+        EXPECT_EQ(cfg.read(dir / "file.conf"), rc) << text.substr(0, 40);
+        Entries expected = added;
+        if (rc == 0) expected.emplace("seeded", "before");
+        EXPECT_EQ(cfg.entries, expected) << text.substr(0, 40);
     }
+    Config cfg{{{"kept", "yes"}}};  // an unusable path changes nothing
+    EXPECT_TRUE(cfg.read("") == -1 && cfg.read(dir / "missing") == -1 && cfg.entries == (Entries{{"kept", "yes"}}));
 }
 
-TEST(Config, UnusablePathChangesNothing) {
-    TempDir dir;
+TEST(Config, GetIntReadsLikeAStreamAndSaturates) {
     Config cfg;
-    cfg.entries["kept"] = "yes";
-    EXPECT_EQ(cfg.read(""), -1);
-    EXPECT_EQ(cfg.read(dir / "missing.conf"), -1);
-    EXPECT_EQ(cfg.entries, (Entries{{"kept", "yes"}}));
-}
-
-TEST(Config, GetIntReadsLikeAStream) {
-    const std::vector<std::pair<std::string, int>> cases = {
-        {"4711", 4711}, {"12abc", 12}, {"abc", 0}, {"", 0}, {" -3", -3}, {"\t\n+7", 7}, {"- 3", 0},
-        {"2147483647", INT_MAX}, {"-2147483648", INT_MIN}, {"2147483648", INT_MAX}, {"-2147483649", INT_MIN},
-        {"99999999999999999999", INT_MAX}, {"-99999999999999999999", INT_MIN}};
-    for (const auto& c : cases) {
-        Config cfg;
-        cfg.entries["key"] = c.first;
-        EXPECT_EQ(cfg.get_int("key"), c.second) << "value \"" << c.first << "\"";
+    for (const auto& [text, value] : {std::make_pair("4711", 4711), {"12abc", 12}, {"abc", 0}, {"", 0}, {" -3", -3},
+             {"\t\n+7", 7}, {"- 3", 0}, {"2147483647", INT_MAX}, {"-2147483648", INT_MIN}, {"2147483648", INT_MAX},
+             {"-2147483649", INT_MIN}, {"99999999999999999999", INT_MAX}, {"-99999999999999999999", INT_MIN}}) {
+        cfg.entries["key"] = text;
+        EXPECT_EQ(cfg.get_int("key"), value) << "value \"" << text << "\"";
     }
-    Config cfg;
-    EXPECT_EQ(cfg.get_int("absent"), 0);
-    EXPECT_EQ(cfg.entries, (Entries{{"absent", ""}}));
+    EXPECT_TRUE(cfg.get_int("absent") == 0 && cfg.entries.at("absent").empty());  // inserted empty
 }
 
 }  // namespace
