@@ -3,8 +3,9 @@
 // Line grammar: optional whitespace, a key of [A-Za-z0-9_.-] (may be empty), optional
 // whitespace, "=", optional whitespace, then a value: quoted with " or ' (no escapes, no control
 // bytes) or bare (up to the first space or control byte; never empty), then optional whitespace
-// and an optional "# comment". Blank lines, comment lines and a key with nothing after it are
-// ignored. Any other line is malformed and empties the whole map.
+// and an optional "# comment". Blank lines, comment lines (also "key#...") and a last line
+// without a newline that holds only a key are ignored; a key alone on a line that ends with a
+// newline is malformed. A malformed line empties the whole map.
 #ifndef LIB_CONFIG_H
 #define LIB_CONFIG_H
 
