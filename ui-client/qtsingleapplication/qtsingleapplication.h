@@ -7,7 +7,7 @@
 // process ends, so a crashed instance never blocks the next start, and of two instances started
 // together exactly one gets it. The first instance also listens on a local socket of that name
 // in the same folder (a plain AF_UNIX socket: no message is ever exchanged, and linking a network
-// module only for it would cost every start a dozen more libraries to load).
+// module only for it would cost every start eight more libraries to load).
 #ifndef UI_CLIENT_QTSINGLEAPPLICATION_QTSINGLEAPPLICATION_H
 #define UI_CLIENT_QTSINGLEAPPLICATION_QTSINGLEAPPLICATION_H
 
@@ -27,7 +27,6 @@ public:
     QString id() const { return id_; }
     QString socketName() const { return socket_name_; }
     QString lockFileName() const { return lock_name_; }
-    QString socketPath() const { return socket_path_; }
 
 private:
     bool takeGuard();
