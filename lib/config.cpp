@@ -4,6 +4,8 @@
 #include <cstdio>
 #include <memory>
 
+#include "stream.h"
+
 namespace {
 
 const int kLineBufferSize = 8192;
@@ -66,7 +68,7 @@ LineKind parse_line(const unsigned char* p, ustring& key, ustring& value) {
 
 int Config::read(const ustring& path) {
     if (path.empty()) return -1;
-    std::unique_ptr<FILE, int (*)(FILE*)> file(fopen(path.c_str(), "r"), fclose);
+    std::unique_ptr<FILE, int (*)(FILE*)> file(open_stream(path.c_str(), O_RDONLY, "r"), fclose);
     if (!file) return -1;
 
     char line[kLineBufferSize];

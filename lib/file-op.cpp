@@ -188,16 +188,24 @@ int FSInit(const ustring&) { return 0; }
 
 int FSChown(const ustring& path) { return chown(path.c_str(), g_uid, g_gid); }
 
-bool IsFileExist(const ustring& path, bool exact_case) {
-    const ustring normalized = path.normalize(NFC);
-    if (normalized.empty()) return false;
-    if (access(normalized.c_str(), F_OK) != 0) return false;
-    if (!exact_case) return true;
+namespace {
 
+// Whether path exists, as given or (on_disk then tells how) under another Unicode form.
+bool locate(const ustring& path, ustring& on_disk) {
+    on_disk = path;
+    if (access(path.c_str(), F_OK) == 0) return true;
+    std::string stored;
+    if (errno != ENOENT || FSFindStoredForm(path.c_str(), stored) != 0 || stored == path.c_str()) return false;
+    on_disk = stored.c_str();
+    return access(stored.c_str(), F_OK) == 0;  // as access tells: a dangling link does not exist
+}
+
+// Whether the existing on_disk names its entry in the letter case stored on disk, as path does.
+bool same_case_as_stored(const ustring& on_disk, const ustring& normalized) {
     Logger::LogMsg(Logger::LEVEL_DEBUG, component(), "[DEBUG] file-op.cpp(%d): Input file path = [%s].\n", __LINE__,
                    normalized.c_str());
     char stored[kPathBufferSize];
-    const OSStatus status = stored_form(normalized, stored);
+    const OSStatus status = stored_form(on_disk, stored);
     if (status != 0) {
         Logger::LogMsg(Logger::LEVEL_ERROR, component(), "[ERROR] file-op.cpp(%d): FSPathMakeRef: %d\n", __LINE__,
                        static_cast<int>(status));
@@ -209,6 +217,26 @@ bool IsFileExist(const ustring& path, bool exact_case) {
     if (target.compare(normalized) != 0) return false;
     Logger::LogMsg(Logger::LEVEL_DEBUG, component(), "[DEBUG] file-op.cpp(%d): File exist.\n", __LINE__);
     return true;
+}
+
+bool exists_on_disk(const ustring& path, bool exact_case, ustring& on_disk) {
+    const ustring normalized = path.normalize(NFC);
+    if (normalized.empty() || !locate(path, on_disk)) return false;
+    return !exact_case || same_case_as_stored(on_disk, normalized);
+}
+
+}  // namespace
+
+bool IsFileExist(const ustring& path, bool exact_case) {
+    ustring on_disk;
+    return exists_on_disk(path, exact_case, on_disk);
+}
+
+int FSGetStoredForm(ustring& path) {
+    ustring on_disk;
+    if (path.empty() || !locate(path, on_disk)) return -1;
+    path = on_disk;
+    return 0;
 }
 
 int GetFileInfo(const ustring& path, _FILE_INFO_tag& info) {
@@ -239,11 +267,12 @@ int GetFileInfo(const ustring& path, _FILE_INFO_tag& info) {
 
 int FSStat(const ustring& path, _FILE_INFO_tag& info, bool exact_case) {
     if (path.empty()) return -1;
-    if (!IsFileExist(path, exact_case)) {
+    ustring on_disk;
+    if (!exists_on_disk(path, exact_case, on_disk)) {
         info.exists = false;
         return 0;
     }
-    return GetFileInfo(path, info) == 0 ? 0 : -2;
+    return GetFileInfo(on_disk, info) == 0 ? 0 : -2;
 }
 
 int FSCopy(const ustring& source, const ustring& destination, bool remove_source) {
@@ -293,17 +322,18 @@ int FSCopy(const ustring& source, const ustring& destination, bool remove_source
 
 int FSRename(const ustring& source, const ustring& destination, bool exact_case) {
     if (source.empty() || destination.empty()) return -1;
+    ustring from;
     _FILE_INFO_tag info;
-    if (FSStat(source, info, exact_case) != 0 || !info.exists) return -2;
-    if (rename(source.c_str(), destination.c_str()) == 0) return 0;
+    if (!exists_on_disk(source, exact_case, from) || GetFileInfo(from, info) != 0 || !info.exists) return -2;
+    if (rename(from.c_str(), destination.c_str()) == 0) return 0;
     if (errno == ENAMETOOLONG) return -100;
     if (errno != EXDEV) return -3;
 
     switch (info.type) {
     case FILE_TYPE_REGULAR:
-        return FSCopy(source, destination, true) < 0 ? -3 : 0;
+        return FSCopy(from, destination, true) < 0 ? -3 : 0;
     case FILE_TYPE_DIR:
-        return rename_dir_across_devices(source, destination, exact_case);
+        return rename_dir_across_devices(from, destination, exact_case);
     default:
         return 0;  // links and special files are not carried across devices
     }
@@ -404,6 +434,10 @@ int FSRemove(const ustring& path, bool) {
     if (!info.exists) return 0;
     if (info.type != FILE_TYPE_DIR) return remove(path.c_str()) == 0 ? 0 : -3;
 
+    // Listing needs read, removing entries write and search: a folder extracted with mode 000
+    // would otherwise outlive every rollback. Only its owner (or root) can change that.
+    const mode_t owner_all = S_IRWXU;
+    if ((info.mode & owner_all) != owner_all) chmod(path.c_str(), (info.mode & 07777) | owner_all);
     DIR* dir = opendir(path.c_str());
     if (!dir) return 0;
     dirent* entry;
@@ -424,7 +458,7 @@ int FSMktemp(const ustring& directory, ustring& out) {
     char path[kPathBufferSize];
     snprintf(path, sizeof path, "%s/XXXXXX", directory.c_str());
     const std::string template_text(path);  // mkstemp overwrites the X's even when it fails
-    const int fd = mkstemp(path);
+    const int fd = mkostemp(path, O_CLOEXEC);
     if (fd < 0) {
         const int err = errno;
         Logger::LogMsg(Logger::LEVEL_ERROR, component(), "[ERROR] file-op.cpp(%d): mkstemp(%s): %s\n", __LINE__,
@@ -561,4 +595,12 @@ int FSGetRealPath(ustring& path) {
     path = stored;
     Logger::LogMsg(Logger::LEVEL_DEBUG, component(), "[DEBUG] file-op.cpp(%d):  get full path [%s]\n", __LINE__, path.c_str());
     return 0;
+}
+
+int FSSyncFileSystem(const ustring& path) {
+    if (FSSyncVolume(path.c_str()) == 0) return 0;
+    const int err = errno;
+    Logger::LogMsg(Logger::LEVEL_ERROR, component(), "[ERROR] file-op.cpp(%d): FSSyncFileSystem(%s): %s (%d)\n", __LINE__,
+                   path.c_str(), strerror(err), err);
+    return -1;
 }

@@ -61,9 +61,13 @@ void FSInitialize(uint32_t uid, uint32_t gid);
 int FSInit(const ustring& path);
 int FSChown(const ustring& path);
 
-// With exact_case, the path must also name the entry in the letter case and Unicode form
-// stored on disk.
+// True when the path exists as given or under another Unicode form of its names (folders that
+// store names as bytes keep whatever form they were given). With exact_case, the path must also
+// name the entry in the letter case stored on disk.
 bool IsFileExist(const ustring& path, bool exact_case);
+// Replaces the path by the spelling stored on disk when it exists only under another Unicode
+// form. 0 when it exists either way, -1 (path unchanged) when it does not.
+int FSGetStoredForm(ustring& path);
 // lstat-based. A missing path gives 0 with exists false; -1 on any other failure.
 int GetFileInfo(const ustring& path, _FILE_INFO_tag& info);
 // 0 (exists false when missing), -1 empty path, -2 information unreadable.
@@ -80,7 +84,9 @@ int FSMKDir(const ustring& path, bool parents);
 // used exactly. With force, a non-directory in the way is replaced. *stop_pos (if given) points
 // into path's text: behind the component that failed, or at the end on success.
 int FSMKDirP(const ustring& path, char** stop_pos, bool force, unsigned short mode);
-// Recursive. 0 (also for a missing path or a directory that cannot be opened), -1, -3.
+// Recursive. A folder of ours that lacks our own read, write or search permission gets it first,
+// so whatever modes a package gave its entries, what we extracted can be removed.
+// 0 (also for a missing path or a directory that cannot be opened), -1, -3.
 int FSRemove(const ustring& path, bool unused = false);
 int FSMktemp(const ustring& directory, ustring& out);
 int FSCreateTempPath(const ustring& directory, ustring& out);
@@ -99,5 +105,7 @@ bool isMountPoint(const ustring& path);
 bool IsMSDOS(const ustring& path);
 // Replaces the path by its form stored on disk. 0, or -1 with the path unchanged.
 int FSGetRealPath(ustring& path);
+// Flushes the file system holding path to disk and waits for it. 0, or -1 (logged).
+int FSSyncFileSystem(const ustring& path);
 
 #endif

@@ -3,18 +3,27 @@
 // The on-disk form of a path is found component by component: a component that is stored
 // byte-for-byte is kept; otherwise its parent folder is searched for the one entry that equals
 // it under canonical caseless matching (NFD, case folding, NFD). That is what a folder that
-// ignores case or Unicode form would have matched.
+// ignores case or Unicode form would have matched. Linux folders do neither: they store names
+// as bytes, so the same search, by Unicode form alone, finds a path stored in another form.
 #include "fs-platform.h"
 
 #include <dirent.h>
+#include <fcntl.h>
+#include <langinfo.h>
+#include <linux/close_range.h>
 #include <linux/magic.h>
+#include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
+#include <sys/un.h>
 #include <sys/vfs.h>
 #include <unistd.h>
 #include <unicode/uchar.h>
 #include <unicode/ustring.h>
 
 #include <climits>
+#include <clocale>
+#include <cstddef>
 #include <cstdlib>
 #include <cstring>
 #include <fstream>
@@ -55,42 +64,43 @@ private:
     DIR* dir_;
 };
 
+// The canonical-equivalence key of a name: its NFC form; empty when the name is not valid UTF-8.
+std::string canonical_key(const char* name) {
+    const ustring text(name);
+    if (text.empty() || !ustring::is_valid(text)) return std::string();
+    return text.normalize(NFC).c_str();
+}
+
+using NameKey = std::string (*)(const char*);
+
 // Finds how `component` is stored in the folder `dir` ("" for the current folder, else ending
-// in "/"). False when it is not there or more than one entry matches.
-bool stored_name(const std::string& dir, const std::string& component, std::string& stored) {
+// in "/"): as given, else as the one entry whose key equals its key. False when it is not there
+// or more than one entry matches.
+bool stored_name(const std::string& dir, const std::string& component, NameKey key, std::string& stored) {
+    struct stat st;
+    const bool as_given = lstat((dir + component).c_str(), &st) == 0;
+    stored = component;
+    // Found as given means stored so, unless the folder ignores case: then only its listing tells.
+    if (as_given && key != caseless_key) return true;
     DirStream stream(dir);
-    if (!stream.get()) {
-        // Searchable but not listable: all we can tell is whether the name as given exists.
-        struct stat st;
-        if (lstat((dir + component).c_str(), &st) != 0) return false;
-        stored = component;
-        return true;
-    }
-    while (const dirent* entry = readdir(stream.get())) {
-        if (component == entry->d_name) {
-            stored = component;
-            return true;
-        }
-    }
-    const std::string wanted = caseless_key(component.c_str());
-    if (wanted.empty()) return false;
-    rewinddir(stream.get());
+    const std::string wanted = stream.get() ? key(component.c_str()) : std::string();
+    if (wanted.empty()) return as_given;  // searchable but not listable, or not UTF-8
     int matches = 0;
+    std::string found;
     while (const dirent* entry = readdir(stream.get())) {
-        if (caseless_key(entry->d_name) == wanted) {
-            stored = entry->d_name;
+        if (component == entry->d_name) return true;
+        if (key(entry->d_name) == wanted) {
+            found = entry->d_name;
             ++matches;
         }
     }
-    return matches == 1;
+    if (matches == 1) stored = found;
+    return matches == 1 || (as_given && matches == 0);
 }
 
-}  // namespace
-
-OSStatus FSPathMakeRef(const UInt8* path, FSRef* ref, Boolean* isDirectory) {
-    if (!path || !ref || !*path) return kFSStatusBadParam;
-    const std::string in(reinterpret_cast<const char*>(path));
-    std::string out;
+// Resolves `in` component by component into the names stored on disk.
+bool stored_path(const std::string& in, NameKey key, std::string& out) {
+    out.clear();
     out.reserve(in.size());
     for (size_t i = 0; i < in.size();) {
         if (in[i] == '/') {
@@ -105,13 +115,22 @@ OSStatus FSPathMakeRef(const UInt8* path, FSRef* ref, Boolean* isDirectory) {
             out += component;
         } else {
             std::string stored;
-            if (!stored_name(out, component, stored)) return kFSStatusNotFound;
+            if (!stored_name(out, component, key, stored)) return false;
             out += stored;
         }
         i = end;
     }
     struct stat st;
-    if (lstat(out.c_str(), &st) != 0) return kFSStatusNotFound;
+    return lstat(out.c_str(), &st) == 0;
+}
+
+}  // namespace
+
+OSStatus FSPathMakeRef(const UInt8* path, FSRef* ref, Boolean* isDirectory) {
+    if (!path || !ref || !*path) return kFSStatusBadParam;
+    std::string out;
+    if (!stored_path(reinterpret_cast<const char*>(path), caseless_key, out)) return kFSStatusNotFound;
+    struct stat st;
     if (isDirectory) *isDirectory = stat(out.c_str(), &st) == 0 && S_ISDIR(st.st_mode);
     ref->stored_path = out;
     return 0;
@@ -123,6 +142,64 @@ OSStatus FSRefMakePath(const FSRef* ref, UInt8* path, UInt32 maxPathSize) {
     if (stored.size() + 1 > maxPathSize) return kFSStatusPathTooLong;
     memcpy(path, stored.c_str(), stored.size() + 1);
     return 0;
+}
+
+int FSFindStoredForm(const char* path, std::string& stored) {
+    if (!path || !*path) return -1;
+    return stored_path(path, canonical_key, stored) ? 0 : -1;
+}
+
+int FSUseUtf8Names() {
+    if (strcmp(nl_langinfo(CODESET), "UTF-8") == 0) return 0;
+    for (const char* name : {"C.UTF-8", "C.utf8", "en_US.UTF-8"})
+        if (setlocale(LC_CTYPE, name)) return 0;
+    return -1;
+}
+
+int FSSyncVolume(const char* path) {
+    const int fd = open(path, O_RDONLY | O_CLOEXEC);
+    if (fd < 0) return -1;
+    const int rc = syncfs(fd);
+    const int err = errno;
+    close(fd);
+    errno = err;
+    return rc == 0 ? 0 : -1;
+}
+
+int FSLocalSocket() { return socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0); }
+
+int FSClaimLocalName(const char* name) {
+    struct sockaddr_un address = {};
+    const size_t length = strlen(name);
+    if (length + 1 > sizeof address.sun_path) {
+        errno = ENAMETOOLONG;
+        return -1;
+    }
+    address.sun_family = AF_UNIX;
+    memcpy(address.sun_path + 1, name, length);  // a leading NUL: the abstract namespace
+    const int fd = FSLocalSocket();
+    if (fd < 0) return -1;
+    const socklen_t size = static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + 1 + length);
+    if (bind(fd, reinterpret_cast<const sockaddr*>(&address), size) != 0 || listen(fd, SOMAXCONN) != 0) {
+        const int err = errno;
+        close(fd);
+        errno = err;
+        return -1;
+    }
+    return fd;
+}
+
+void FSCloseOnExecFrom(int first) {
+#if defined(SYS_close_range) && defined(CLOSE_RANGE_CLOEXEC)
+    if (syscall(SYS_close_range, static_cast<unsigned>(first), ~0U, CLOSE_RANGE_CLOEXEC) == 0) return;
+#endif
+    // Kernels before 5.11: each open descriptor, as /proc lists them.
+    DirStream fds("/proc/self/fd/");
+    if (!fds.get()) return;
+    while (const dirent* entry = readdir(fds.get())) {
+        const int fd = atoi(entry->d_name);
+        if (fd >= first) fcntl(fd, F_SETFD, fcntl(fd, F_GETFD) | FD_CLOEXEC);
+    }
 }
 
 const char* FSFileSystemTypeNameOfMagic(unsigned long magic) {

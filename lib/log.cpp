@@ -5,6 +5,7 @@
 #include <ctime>
 
 #include "config.h"
+#include "stream.h"
 
 Logger::Type Logger::log_type = Logger::TYPE_STDOUT;
 FILE* Logger::log_fp = nullptr;
@@ -71,7 +72,7 @@ int Logger::Initialize(Type type, const ustring& path, const ustring& level_conf
         return 0;
     case TYPE_FILE: {
         if (path.empty()) return -1;
-        FILE* fp = fopen(path.c_str(), "a");
+        FILE* fp = open_for_append(path.c_str());
         if (!fp) return -1;
         replace_stream(fp);
         log_size = 0;
@@ -152,7 +153,7 @@ int Logger::Rotate() {
     log_fp = nullptr;
     rotated_name(to, 0);
     if (rename(log_path.c_str(), to) != 0) return -1;
-    log_fp = fopen(log_path.c_str(), "a");
+    log_fp = open_for_append(log_path.c_str());
     return log_fp ? 0 : -1;
 }
 

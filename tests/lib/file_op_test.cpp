@@ -51,8 +51,9 @@ TEST_F(FileOpTest, EntriesAreDescribedAndListedWithoutFollowingLinksAndFoundByTh
         EXPECT_TRUE(FSStat(absent, i, true) == 0 && !i.exists && FSStat("", i, false) == -1) << absent;
     const Info a = {"p", "t", 1, 2, 3, true, 4, 5, 6};  // equality leaves out uid, gid and mode, not aux_text
     EXPECT_TRUE((a == Info{"p", "t", 1, 2, 3, true} && a != Info{"p", "u", 1, 2, 3, true}));
-    // Paths are asked for in NFC, so an NFD name is not found on this disk.
-    for (const auto& [path, found] : std::map<S, bool>{{p("foo"), true}, {p(kNFD), true}, {p("Dir/" + kNFD), false},
+    // This disk keeps names in the form they were given; either form finds them.
+    for (const auto& [path, found] : std::map<S, bool>{{p("foo"), true}, {p(kNFD), true}, {p("Dir/" + kNFD), true},
+             {p("Dir/" + kNFC), true}, {p("dIR/" + kNFC), false}, {p(kNFC + "/in"), false},
              {p("fOo"), false}, {p("dangling"), false}, {p("foo/in"), false}, {"", false}})
         for (bool exact : {false, true}) EXPECT_EQ(IsFileExist(path, exact), found) << path << exact;
     DIR_HANDLE h;
