@@ -4,7 +4,9 @@
 #include <archive_entry.h>
 
 #include <cstdio>
+#include <cstring>
 
+#include "file-op.h"
 #include "log.h"
 #include "notify-adapter.h"
 #include "strtable.h"
@@ -43,6 +45,51 @@ archive* open_reader(const ustring& path) {
     }
     return reader;
 }
+
+// The package's top-level INFO is the installation's commit record: a folder without it is
+// extracted again at the next start, one with it passes as complete. So it must reach the disk
+// after everything else, which a power cut would otherwise not respect.
+bool is_commit_record(const char* name) { return strcmp(name, "INFO") == 0 || strcmp(name, "./INFO") == 0; }
+
+// Keeps the commit record of dest last on disk. INFO is written only once all that came before it
+// is on disk; should entries follow it (a package not written by our packager), it is moved aside
+// until they are on disk too.
+class CommitRecord {
+public:
+    explicit CommitRecord(const ustring& dest) : dest_(dest), path_(dest + "/INFO"), aside_(dest + "/.INFO-pending") {}
+
+    // Before writing the entry `name`; false when the extraction must stop.
+    bool before_entry(const char* name) {
+        if (is_commit_record(name)) {
+            if (FSSyncFileSystem(dest_) != 0) return false;
+            if (moved_aside_) FSRemove(aside_);
+            written_ = true;
+            moved_aside_ = false;
+            return true;
+        }
+        if (!written_ || moved_aside_) return true;
+        moved_aside_ = move(path_, aside_);
+        return moved_aside_;
+    }
+
+    // After the last entry: everything on disk, the record last. False when that fails.
+    bool commit() {
+        if (moved_aside_ && (FSSyncFileSystem(dest_) != 0 || !move(aside_, path_))) return false;
+        return FSSyncFileSystem(dest_) == 0;
+    }
+
+private:
+    static bool move(const ustring& from, const ustring& to) {
+        if (FSRename(from, to, false) == 0) return true;
+        Logger::LogMsg(Logger::LEVEL_ERROR, component(), "[ERROR] extractor.cpp(%d): failed to rename '%s' to '%s'\n", __LINE__,
+                       from.c_str(), to.c_str());
+        return false;
+    }
+
+    const ustring dest_, path_, aside_;
+    bool written_ = false;
+    bool moved_aside_ = false;
+};
 
 }  // namespace
 
@@ -114,6 +161,7 @@ int Extractor::Extract() {
     archive_read_support_format_all(reader);
 
     int result = 0;
+    CommitRecord record(dest_path);
     if (archive_read_open_filename(reader, archive_path.c_str(), kBlockSize) != ARCHIVE_OK) {
         Logger::LogMsg(Logger::LEVEL_ERROR, component(), "[ERROR] extractor.cpp(%d): Failed to read file '%s' ('%s')\n",
                        __LINE__, archive_path.c_str(), error_of(reader));
@@ -136,6 +184,10 @@ int Extractor::Extract() {
             result = -1;
             break;
         }
+        if (!record.before_entry(name)) {
+            result = -1;
+            break;
+        }
         archive_entry_set_pathname(entry, (dest_path + "/" + name).c_str());
         if (archive_read_extract2(reader, entry, writer) != ARCHIVE_OK) {
             Logger::LogMsg(Logger::LEVEL_ERROR, component(), "[ERROR] extractor.cpp(%d): archive_read_extract2 failed: '%s'\n",
@@ -151,7 +203,8 @@ int Extractor::Extract() {
         }
     }
     archive_read_free(reader);
-    archive_write_free(writer);
+    archive_write_free(writer);  // sets the folders' modes: part of what must be on disk
+    if (result == 0 && !record.commit()) result = -1;
     return result;
 }
 

@@ -8,6 +8,7 @@
 #include <QStringList>
 #include <QTranslator>
 
+#include "fs-platform.h"
 #include "launcher.h"
 #include "log.h"
 #include "lumora-service.h"
@@ -31,6 +32,17 @@ void init_log() {
         Logger::Initialize(Logger::TYPE_FILE, log_dir + "/launcher.log", level_conf, 50);
 }
 
+// Names in packages and on disk are UTF-8 whatever the locale; a locale of another character set
+// (C, POSIX, none at all) would make the archive library refuse every name outside ASCII. The
+// application object has just taken the whole locale from the environment again, so this comes
+// after it.
+void use_utf8_names() {
+    if (FSUseUtf8Names() != 0)
+        Logger::LogMsg(Logger::LEVEL_WARNING, "launcher_debug",
+                       "[WARNING] main.cpp(%d): no UTF-8 character type available, names outside ASCII may not extract\n",
+                       __LINE__);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -44,11 +56,15 @@ int main(int argc, char** argv) {
 
     QtSingleApplication app(argc, argv, true);
     init_log();
+    use_utf8_names();
     if (app.isRunning()) {
         Logger::LogMsg(Logger::LEVEL_DEBUG, "launcher_debug", "[DEBUG] main.cpp(%d): app has already launched, return\n",
                        __LINE__);
         return 0;
     }
+    if (!app.guardWarning().isEmpty())
+        Logger::LogMsg(Logger::LEVEL_WARNING, "launcher_debug", "[WARNING] main.cpp(%d): %s\n", __LINE__,
+                       app.guardWarning().toUtf8().constData());
 
     QTranslator translator;
     translator.load(QStringLiteral(":/") + QuenLocale::getDefaultLanguage() + QStringLiteral(".qm"), QString(), QString(),

@@ -5,10 +5,13 @@
 #include <sys/un.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstring>
 
 #include <QDir>
 #include <QFile>
+
+#include "fs-platform.h"
 
 namespace {
 
@@ -18,6 +21,16 @@ QString letters_of(const QString& file_name) {
     for (QChar c : file_name)
         if ((c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z')) prefix += c;
     return prefix.left(6);
+}
+
+// The address of the socket file at path; false when the path is too long for one.
+bool socket_address(const QString& path, sockaddr_un& address) {
+    const QByteArray bytes = QFile::encodeName(path);
+    address = sockaddr_un();
+    if (static_cast<size_t>(bytes.size()) >= sizeof address.sun_path) return false;
+    address.sun_family = AF_UNIX;
+    std::memcpy(address.sun_path, bytes.constData(), static_cast<size_t>(bytes.size()));
+    return true;
 }
 
 }  // namespace
@@ -40,6 +53,7 @@ QtSingleApplication::~QtSingleApplication() {
         ::close(socket_fd_);
         ::unlink(QFile::encodeName(socket_path_).constData());
     }
+    if (name_fd_ >= 0) ::close(name_fd_);
     if (lock_fd_ >= 0) ::close(lock_fd_);  // closing drops the lock
 }
 
@@ -51,34 +65,65 @@ bool QtSingleApplication::isRunning() {
     return other_running_;
 }
 
-// False when another process holds the lock. A lock file we cannot even open is no proof of a
-// running instance, so it does not stop this one.
+// False when another process holds the guard.
 bool QtSingleApplication::takeGuard() {
     lock_fd_ = ::open(QFile::encodeName(lock_name_).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
-    if (lock_fd_ < 0) return true;
+    if (lock_fd_ < 0) return takeFallbackGuard(errno);
     struct flock lock = {};
     lock.l_type = F_WRLCK;
     lock.l_whence = SEEK_SET;
     if (::fcntl(lock_fd_, F_SETLK, &lock) != 0) {
+        const int err = errno;
         ::close(lock_fd_);
         lock_fd_ = -1;
-        return false;
+        if (err == EACCES || err == EAGAIN) return false;  // held by another process
+        return takeFallbackGuard(err);
     }
+    // Holding the name too lets an instance whose lock fails see this one.
+    name_fd_ = FSClaimLocalName(socket_name_.toUtf8().constData());
+    if (name_fd_ < 0 && errno == EADDRINUSE) return false;
     listen();
     return true;
 }
 
-// The socket only marks the holder; the lock decides. So a socket that cannot be made (a path too
-// long for sun_path, a folder we may not write) costs nothing but the mark.
+bool QtSingleApplication::takeFallbackGuard(int lock_error) {
+    QString guard;
+    name_fd_ = FSClaimLocalName(socket_name_.toUtf8().constData());
+    if (name_fd_ >= 0) {
+        guard = QStringLiteral("guarded by its local name instead");
+    } else if (errno == EADDRINUSE || holderAnswers()) {
+        return false;
+    }
+    listen();
+    if (guard.isEmpty())
+        guard = socket_fd_ >= 0 ? QStringLiteral("guarded by its local socket instead")
+                                : QStringLiteral("no other guard available, running unguarded");
+    guard_warning_ = QStringLiteral("single-instance lock '%1' cannot be used (%2, %3); %4")
+                         .arg(lock_name_, QString::fromLocal8Bit(std::strerror(lock_error)))
+                         .arg(lock_error)
+                         .arg(guard);
+    return true;
+}
+
+// A live holder listens on the folder's socket; a crashed one left a file that refuses.
+bool QtSingleApplication::holderAnswers() const {
+    struct sockaddr_un address;
+    if (!socket_address(socket_path_, address)) return false;
+    const int fd = FSLocalSocket();
+    if (fd < 0) return false;
+    const bool answered = ::connect(fd, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
+    ::close(fd);
+    return answered;
+}
+
+// Where the lock works the socket only marks the holder, so a socket that cannot be made (a path
+// too long for sun_path, a folder we may not write) costs nothing but the mark.
 void QtSingleApplication::listen() {
-    const QByteArray path = QFile::encodeName(socket_path_);
-    struct sockaddr_un address = {};
-    if (static_cast<size_t>(path.size()) >= sizeof address.sun_path) return;
-    address.sun_family = AF_UNIX;
-    std::memcpy(address.sun_path, path.constData(), static_cast<size_t>(path.size()));
-    socket_fd_ = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    struct sockaddr_un address;
+    if (!socket_address(socket_path_, address)) return;
+    socket_fd_ = FSLocalSocket();
     if (socket_fd_ < 0) return;
-    ::unlink(path.constData());  // we hold the lock: a socket file of this name is a crashed holder's
+    ::unlink(address.sun_path);  // we hold the guard: a socket file of this name is a crashed holder's
     if (::bind(socket_fd_, reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0 ||
         ::listen(socket_fd_, SOMAXCONN) != 0) {
         ::close(socket_fd_);

@@ -135,6 +135,8 @@ void MacService::PostUpgrade() {
 
 int MacService::LaunchPerUserBin() {
     const QString program = QString::fromUtf8(per_user_bin(app_path).c_str());
+    // The client must not hold our log, guard or anything a library left open without the flag.
+    FSCloseOnExecFrom(3);
     return QProcess::startDetached(program, QStringList()) ? 0 : -1;
 }
 
