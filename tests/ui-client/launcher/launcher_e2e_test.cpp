@@ -1,6 +1,7 @@
 // The built launcher in a copy of the real bundle, run as a user would; the client it starts is checked live.
 #include <gtest/gtest.h>
 #include <signal.h>
+#include <grp.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
 #include <QProcess>
@@ -15,12 +16,21 @@ using namespace testsupport;
 namespace fs = std::filesystem;
 
 static QString q(const std::string& s) { return QString::fromStdString(s); }
+// As root, the launcher and the clients run as nobody, so that file modes stop them as they stop a user.
+static const bool kRoot = geteuid() == 0;
+static const uid_t kUser = 65534;
+static void give_to_user(const std::string& root) {
+    if (kRoot) nftw(root.c_str(), [](const char* p, const struct stat*, int, struct FTW*) { return lchown(p, kUser, kUser), 0; }, 16, FTW_PHYS);
+}
 static bool wait_for(const std::function<bool()>& ok, int n = 500) { return ok() || (n && (usleep(10000), wait_for(ok, n - 1))); }
 
 // A program reaped by a thread the moment it ends, so that the launcher's kill(pid, 0) sees it gone.
 struct Child {
     explicit Child(const std::string& program) : pid(fork()) {
-        if (pid == 0) execl(program.c_str(), program.c_str(), nullptr), _exit(127);
+        if (pid == 0) {
+            if (kRoot && (setgroups(0, nullptr) != 0 || setgid(kUser) != 0 || setuid(kUser) != 0)) _exit(126);
+            execl(program.c_str(), program.c_str(), nullptr), _exit(127);
+        }
         reaper = std::thread([this] { int st = 0; waitpid(pid, &st, 0); status = st; });
     }
     ~Child() { if (status == -1) kill(pid, SIGKILL); reaper.join(); }
@@ -70,10 +80,14 @@ protected:
         EXPECT_EQ(QProcess::execute("bsdtar", {"-xf", q(pkg), "-C", q(app), "bin/lumora-ui"}), 0);
         write_file(app + "/INFO", "[Version]\nmajor_version=1\nminor_version=0\nbuild_version=" + std::to_string(build) + "\n");
     }
-    std::unique_ptr<QProcess> start(bool relative = false, std::unique_ptr<QProcess> p = std::make_unique<QProcess>()) {
-        p->setEnvironment(QProcess::systemEnvironment() << "TMPDIR=" + q(tmp.path()));  // the guard's lock file goes there
+    std::unique_ptr<QProcess> start(bool relative = false, QStringList env = QProcess::systemEnvironment()) {
+        give_to_user(tmp.path());
+        auto p = std::make_unique<QProcess>();
+        p->setEnvironment(env << "TMPDIR=" + q(tmp.path()));  // the guard's lock file goes there
         if (relative) p->setWorkingDirectory(q(bundle + "/Contents/MacOS"));
-        p->start(relative ? "./launcher" : q(bundle + "/Contents/MacOS/launcher"), QStringList());
+        const QString launcher = relative ? "./launcher" : q(bundle + "/Contents/MacOS/launcher");
+        if (kRoot) p->start("/usr/bin/setpriv", {"--reuid=65534", "--regid=65534", "--clear-groups", "--", launcher});
+        else p->start(launcher, QStringList());
         return p;
     }
     int finish(QProcess& p) {  // the exit code, -1 for a crash or a hang; its output in `out`, its run time in `secs`
@@ -109,6 +123,7 @@ TEST_P(LauncherE2E, LeavesTheInstallAndStartsTheClient) {
     if (c.bundle) write_file(bundle + "/Contents/Resources/INFO", "[Version]\nbuild_version=" + std::to_string(c.bundle) + "\n");
     if (c.twist == kCorrupt) fs::resize_file(pkg, fs::file_size(pkg) / 2);
     const Tree old = exists(app) ? snapshot(app) : Tree();
+    give_to_user(tmp.path());
     std::unique_ptr<Child> old_client(c.twist == kRunning ? new Child(bin) : nullptr);  // it exits 0 on SIGTERM
     ASSERT_TRUE(!old_client || pid_file_names(old_client->pid));
     EXPECT_EQ(finish(*start(c.twist == kRelative)), 0);
@@ -137,6 +152,7 @@ TEST_F(LauncherE2E, SecondInstanceIsRefusedAtOnceWhileTheFirstRuns) {
     install(99);
     ASSERT_EQ(mkfifo((tmp / "fifo").c_str(), 0600), 0);
     write_file(bin, "#!/bin/bash\ntrap '' TERM\necho \"pid=$$\" > \"$HOME/.Lumora/ui.pid\"\nread -t 30 _ <> '" + tmp / "fifo" + "'\n");
+    give_to_user(tmp.path());
     Child stubborn(bin);
     ASSERT_TRUE(pid_file_names(stubborn.pid));
     const auto first = start();
