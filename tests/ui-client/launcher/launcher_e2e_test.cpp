@@ -5,6 +5,7 @@
 #include <sys/prctl.h>
 #include <sys/wait.h>
 #include <QProcess>
+#include <QRegularExpression>
 #include <atomic>
 #include <chrono>
 #include <filesystem>
@@ -47,15 +48,17 @@ static std::vector<pid_t> children() {  // ours, orphans adopted as subreaper in
     return out;
 }
 
-static Tree snapshot(const std::string& root, Tree tree = {}) {  // relative path -> content ("/" for a folder) and mode
+static Tree snapshot(const std::string& root, Tree tree = {}) {  // relative path -> content ("/" for a folder, "->target" for a link) and mode
     for (const auto& e : fs::recursive_directory_iterator(root))
-        tree[fs::relative(e.path(), root)] = (e.is_directory() ? "/" : read_file(e.path())) + " mode " + std::to_string(int(fs::status(e.path()).permissions()));
+        tree[e.path().lexically_relative(root)] = e.is_symlink() ? "->" + fs::read_symlink(e.path()).string()
+            : (e.is_directory() ? "/" : read_file(e.path())) + " mode " + std::to_string(int(fs::status(e.path()).permissions()));
     return tree;
 }
 
-enum Twist { kPlain, kNoBinary, kCorrupt, kRunning, kRelative, kNonAsciiHome }; enum Outcome { kInstalled, kKept, kRolledBack };
+enum Twist { kPlain, kNoBinary, kCorrupt, kRunning, kRelative, kLockedFolders }; enum Outcome { kInstalled, kKept, kRolledBack };
 // installed: the app folder's build, 0 for none; bundle: the build the bundle's INFO names, 0 as built (100).
-struct Case { const char* name; int installed, bundle; Twist twist; Outcome outcome; };
+struct Case { const char* name; int installed, bundle; Twist twist; Outcome outcome; const char* home = "home"; };
+const char* const kNfdHome = "Jose\xCC\x81 Mu\xCC\x88ller";  // stored decomposed, as copied from another system
 void PrintTo(const Case& c, std::ostream* os) { *os << c.name; }
 
 class LauncherE2E : public ::testing::TestWithParam<Case> {
@@ -75,20 +78,33 @@ protected:
         home = tmp / name, user = home + "/.Lumora", app = user + "/app", bin = app + "/bin/lumora-ui";
         fs::create_directories(home), setenv("HOME", home.c_str(), 1);
     }
-    void install(int build) {  // the bundle's client binary as the given build
-        fs::create_directories(app);
+    void install(int build) {  // the bundle's client binary as the given build, and a file only it has
+        fs::create_directories(app + "/share"), write_file(app + "/share/only-in-" + std::to_string(build), "old");
         EXPECT_EQ(QProcess::execute("bsdtar", {"-xf", q(pkg), "-C", q(app), "bin/lumora-ui"}), 0);
         write_file(app + "/INFO", "[Version]\nmajor_version=1\nminor_version=0\nbuild_version=" + std::to_string(build) + "\n");
     }
     std::unique_ptr<QProcess> start(bool relative = false, QStringList env = QProcess::systemEnvironment()) {
         give_to_user(tmp.path());
         auto p = std::make_unique<QProcess>();
-        p->setEnvironment(env << "TMPDIR=" + q(tmp.path()));  // the guard's lock file goes there
+        if (env.filter(QRegularExpression("^TMPDIR=")).isEmpty()) env << "TMPDIR=" + q(tmp.path());  // the guard's lock file
+        p->setEnvironment(env);
         if (relative) p->setWorkingDirectory(q(bundle + "/Contents/MacOS"));
         const QString launcher = relative ? "./launcher" : q(bundle + "/Contents/MacOS/launcher");
-        if (kRoot) p->start("/usr/bin/setpriv", {"--reuid=65534", "--regid=65534", "--clear-groups", "--", launcher});
-        else p->start(launcher, QStringList());
+        QStringList args = wrapper;
+        if (kRoot) args << "/usr/bin/setpriv" << "--reuid=65534" << "--regid=65534" << "--clear-groups" << "--";
+        args << launcher;
+        p->start(args.takeFirst(), args);
         return p;
+    }
+    // The environment of `env -i`, and what the sanitizers are told.
+    QStringList bare_env() const {
+        return QProcess::systemEnvironment().filter(QRegularExpression("^(A|UB|L)SAN_OPTIONS=")) << "HOME=" + q(home) << "QT_QPA_PLATFORM=minimal";
+    }
+    void put_package(const Tree& client) {  // the client folder's package, made by our packager, as the bundle's
+        make_dir(tmp / "client"), make_tree(tmp / "client", client), write_file(tmp / "client/INFO", "[Version]\nbuild_version=100\n");
+        chmod((tmp / "client/bin/lumora-ui").c_str(), 0755);
+        ASSERT_EQ(QProcess::execute(MAKE_PACKAGE, {q(tmp / "client"), q(bundle + "/Contents/Resources/package")}), 0);
+        fs::rename(bundle + "/Contents/Resources/package/INFO", bundle + "/Contents/Resources/INFO");
     }
     int finish(QProcess& p) {  // the exit code, -1 for a crash or a hang; its output in `out`, its run time in `secs`
         const auto t0 = std::chrono::steady_clock::now();
@@ -111,17 +127,24 @@ protected:
         return found;
     }
     TempDir tmp;
+    QStringList wrapper;  // a program the launcher runs under
     std::string bundle = tmp / "Lumora.app", pkg = bundle + "/Contents/Resources/package/lumora.lpk", home, user, app, bin, out;
     double secs = 0;
 };
 
 TEST_P(LauncherE2E, LeavesTheInstallAndStartsTheClient) {
     const Case& c = GetParam();
-    set_home(c.twist == kNonAsciiHome ? "Jérôme 数据" : "home");
+    set_home(c.home);
     if (c.installed) install(c.installed);
     if (c.twist == kNoBinary) fs::remove(bin);
     if (c.bundle) write_file(bundle + "/Contents/Resources/INFO", "[Version]\nbuild_version=" + std::to_string(c.bundle) + "\n");
     if (c.twist == kCorrupt) fs::resize_file(pkg, fs::file_size(pkg) / 2);
+    if (c.twist == kLockedFolders) {  // damaged after a folder that its extraction leaves with mode 000
+        put_package({{"/a", "/"}, {"/a/f", "x"}, {"/z", std::string(1 << 20, '\0')}});
+        for (std::string d : {"/client/a", "/client"}) chmod((tmp / d).c_str(), 0);  // the package's own folder too
+        ASSERT_EQ(QProcess::execute("bsdtar", {"-czf", q(pkg), "-n", "-C", q(tmp / "client"), ".", "a", "a/f", "z", "INFO"}), 0);
+        fs::resize_file(pkg, fs::file_size(pkg) / 2);
+    }
     const Tree old = exists(app) ? snapshot(app) : Tree();
     give_to_user(tmp.path());
     std::unique_ptr<Child> old_client(c.twist == kRunning ? new Child(bin) : nullptr);  // it exits 0 on SIGTERM
@@ -143,24 +166,82 @@ INSTANTIATE_TEST_SUITE_P(Cases, LauncherE2E, ::testing::Values(
     Case{"FirstInstall", 0, 0, kPlain, kInstalled}, Case{"CurrentInstall", 100, 0, kPlain, kKept},
     Case{"DowngradeRefused", 100, 99, kPlain, kKept}, Case{"ReinstallWhenBinaryMissing", 200, 0, kNoBinary, kInstalled},
     Case{"CorruptPackageRollsBack", 99, 0, kCorrupt, kRolledBack}, Case{"UpgradeStopsRunningClient", 99, 0, kRunning, kInstalled},
-    Case{"RelativeArgv0", 0, 0, kRelative, kInstalled}, Case{"NonAsciiHome", 0, 0, kNonAsciiHome, kInstalled}),
+    Case{"RelativeArgv0", 0, 0, kRelative, kInstalled}, Case{"NonAsciiHome", 0, 0, kPlain, kInstalled, "Jérôme 数据"},
+    Case{"NfdHomeFirstInstall", 0, 0, kPlain, kInstalled, kNfdHome}, Case{"NfdHomeCurrentInstall", 100, 0, kPlain, kKept, kNfdHome},
+    Case{"NfdHomeUpgradeStopsRunningClient", 99, 0, kRunning, kInstalled, kNfdHome},
+    Case{"LockedFoldersOfADamagedPackageRollBack", 99, 0, kLockedFolders, kRolledBack}),
     [](const ::testing::TestParamInfo<Case>& i) { return std::string(i.param.name); });
 
-// An old client that ignores SIGTERM holds the first launcher in its stop for some five seconds.
+// An old client that ignores SIGTERM holds the first launcher in its stop for some five seconds. Where the
+// lock file cannot even be made, the first instance says so and guards itself by other means.
 TEST_F(LauncherE2E, SecondInstanceIsRefusedAtOnceWhileTheFirstRuns) {
-    set_home("home");
-    install(99);
     ASSERT_EQ(mkfifo((tmp / "fifo").c_str(), 0600), 0);
-    write_file(bin, "#!/bin/bash\ntrap '' TERM\necho \"pid=$$\" > \"$HOME/.Lumora/ui.pid\"\nread -t 30 _ <> '" + tmp / "fifo" + "'\n");
-    give_to_user(tmp.path());
-    Child stubborn(bin);
-    ASSERT_TRUE(pid_file_names(stubborn.pid));
-    const auto first = start();
-    ASSERT_TRUE(wait_for([&] { return log_of(R"(\[DEBUG\] mac/mac-service\.cpp)").find("local appdata exist") != std::string::npos; }));
+    write_file(tmp / "file", "");
+    for (const std::string& temp : {tmp.path(), tmp / "file"}) {  // a file: no lock file can be made in it
+        set_home("home-" + std::to_string(temp.size()));
+        install(99);
+        write_file(bin, "#!/bin/bash\ntrap '' TERM\necho \"pid=$$\" > \"$HOME/.Lumora/ui.pid\"\nread -t 30 _ <> '" + tmp / "fifo" + "'\n");
+        give_to_user(tmp.path());
+        Child stubborn(bin);
+        ASSERT_TRUE(pid_file_names(stubborn.pid));
+        const QStringList env = QProcess::systemEnvironment() << "TMPDIR=" + q(temp);
+        const auto first = start(false, env);
+        ASSERT_TRUE(wait_for([&] { return log_of(R"(\[DEBUG\] mac/mac-service\.cpp)").find("local appdata exist") != std::string::npos; }));
+        EXPECT_EQ(finish(*start(false, env)), 0);
+        EXPECT_LT(secs, 1.5);
+        EXPECT_EQ(out, "lib path = '" + bundle + "/Contents/Frameworks/plugins'\n");
+        const std::string refused = "[DEBUG] main.cpp(N): app has already launched, return\n", fallback = "[WARNING] main.cpp(N): single-instance lock '" +
+            temp + "/qtsingleapp-launch-" + "*" + "' cannot be used (Not a directory, 20); guarded by its local name instead\n";
+        const std::string main_lines = std::regex_replace(log_of(R"(\[\w+\] main\.cpp)"), std::regex("launch-[^']*-lockfile"), "launch-*");
+        EXPECT_EQ(main_lines, temp == tmp.path() ? refused : fallback + refused);
+        EXPECT_EQ(log_of(R"(\[\w+\] launcher\.cpp)"), "[DEBUG] launcher.cpp(N): running\n");  // the first held the guard throughout
+        EXPECT_EQ(finish(*first), 0);
+        EXPECT_EQ(finish(*start(false, env)), 0);  // the guard ends with its holder
+        EXPECT_NE(log_of(R"(\[\w+\] launcher\.cpp)").find("no need to upgrade"), std::string::npos);
+    }
+}
+
+// Names are UTF-8 bytes whatever the locale: without locale variables, or with C or POSIX, the package
+// installs byte for byte as under a UTF-8 locale.
+TEST_F(LauncherE2E, EveryLocaleInstallsThePackageByteForByte) {
+    const std::string nfc = "\xC3\xA9t\xC3\xA9";
+    put_package({{"/bin", "/"}, {"/bin/lumora-ui", "#!/bin/sh\n"}, {"/données", "/"}, {"/données/" + nfc, nfc}, {"/日本語", "->données/" + nfc}});
+    Tree reference;
+    for (const QStringList& locale : {QStringList{"LANG=C.UTF-8"}, {}, {"LANG=C"}, {"LC_ALL=POSIX"}, {"LANG=C.UTF-8", "LC_ALL=C"}}) {
+        set_home("home-" + std::to_string(reference.size()) + locale.join("-").toStdString());
+        EXPECT_EQ(finish(*start(false, bare_env() << locale)), 0) << locale.join(" ").toStdString();
+        if (reference.empty()) reference = snapshot(app);
+        else EXPECT_EQ(snapshot(app), reference) << locale.join(" ").toStdString();
+    }
+    EXPECT_EQ(reference["données/" + nfc], nfc + " mode 420");
+    EXPECT_EQ(reference["日本語"], "->données/" + nfc);
+}
+
+// The client gets the launcher's standard streams and nothing else: no log, guard, socket or archive.
+TEST_F(LauncherE2E, TheClientInheritsNoDescriptors) {
+    set_home("home");
+    put_package({{"/bin", "/"}, {"/bin/lumora-ui", "#!/bin/sh\nexec ls /proc/self/fd > \"$HOME/fds\"\n"}});
     EXPECT_EQ(finish(*start()), 0);
-    EXPECT_LT(secs, 1.5);
-    EXPECT_EQ(out, "lib path = '" + bundle + "/Contents/Frameworks/plugins'\n");
-    EXPECT_EQ(log_of(R"(\[\w+\] main\.cpp)"), "[DEBUG] main.cpp(N): app has already launched, return\n");
-    EXPECT_EQ(log_of(R"(\[\w+\] launcher\.cpp)"), "[DEBUG] launcher.cpp(N): running\n");  // the first held the guard throughout
-    EXPECT_EQ(finish(*first), 0);
+    ASSERT_TRUE(wait_for([&] { return exists(home + "/fds") && !read_file(home + "/fds").empty(); }));
+    EXPECT_EQ(read_file(home + "/fds"), "0\n1\n2\n3\n");  // 3 is the folder ls reads
+}
+
+// INFO tells the next start that the installation is complete, so it reaches the disk after everything
+// else, and the old installation is deleted only once the new one is on disk: one flush before each.
+TEST_F(LauncherE2E, AnUpgradeFlushesBeforeItsInfoAndBeforeTheBackupGoes) {
+    set_home("home");
+    put_package({{"/bin", "/"}, {"/bin/lumora-ui", "#!/bin/sh\n"}});  // a client that ends, so strace ends
+    install(99);
+    const std::string trace = tmp / "trace";
+    wrapper = QStringList{"strace", "-f", "-qq", "-o", q(trace), "-e", "trace=syncfs,openat,unlink,unlinkat,rmdir"};
+    EXPECT_EQ(finish(*start()), 0);
+    std::vector<std::string> events;  // "sync", "write <path in app>", "remove <path in app_tmp>"
+    const std::regex sync(R"(syncfs\(\d+\) += 0)"), write(R"x(openat\(AT_FDCWD, ")x" + app + R"x(/([^"]+)", O_WRONLY)x"),
+        remove(R"x((?:unlink|unlinkat|rmdir)\((?:AT_FDCWD, )?")x" + app + R"x(_tmp)x");
+    std::ifstream in(trace);
+    for (std::string l; std::getline(in, l);)
+        if (std::smatch m; std::regex_search(l, sync)) events.push_back("sync");
+        else if (std::regex_search(l, m, write)) events.push_back("write " + m[1].str());
+        else if (std::regex_search(l, m, remove) && (events.empty() || events.back().rfind("remove", 0) != 0)) events.push_back("remove");
+    EXPECT_EQ(events, (std::vector<std::string>{"write bin/lumora-ui", "sync", "write INFO", "sync", "remove"}));
 }
