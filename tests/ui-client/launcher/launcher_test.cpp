@@ -172,9 +172,9 @@ TEST(Packager, RefusesUnsafeFoldersAndWritesInfoLast) {
     const std::string info = "[Version]\nbuild_version=7\n";
     std::unique_ptr<QLocalServer> server;
     const auto named = [](std::string name) -> Twist { return [name](const std::string& d) { write_file(d + "/bin/" + name, "x"); }; };
-    // Odd but legal: a name bsdtar -T would take for an option, quotes, backslashes, NFC and NFD, U+0085.
+    // Odd but legal: a name bsdtar -T would take for an option, quotes, a leading backslash, NFC and NFD, U+0085.
     const Twist odd = [](const std::string& d) {
-        for (const char* n : {"-C", "bin/-x y", "a b'\"\\*", "\\123", "Jos\xc3\xa9", "Jose\xcc\x81", "nel\xc2\x85"})
+        for (const char* n : {"-C", "bin/-x y", "it's \"*\"", "\\123", "Jos\xc3\xa9", "Jose\xcc\x81", "nel\xc2\x85"})
             write_file(d + "/" + n, n);
     };
     // bsdtar that, when it creates, runs with these arguments instead.
@@ -185,8 +185,9 @@ TEST(Packager, RefusesUnsafeFoldersAndWritesInfoLast) {
     const std::string listback = "the archive does not list back as written ";
     const std::tuple<const char*, std::string, Twist> cases[] = {
         {"tar.gz", "", nullptr}, {"zip", "", nullptr}, {"7z", "", nullptr}, {"tar.gz", "", odd}, {"cpio", "", odd},
-        // 7z keeps names as UTF-16, which readers give back in NFC.
+        // 7z keeps names as UTF-16, which readers give back in NFC; zip readers take a top-level '\' for '/'.
         {"7z", listback + "(missing: $'Jose\\314\\201'; extra: $'Jos\\303\\251')", odd},
+        {"zip", listback + "(missing: '\\123'; extra: '/123')", odd},
         {"tar.gz", listback + "(missing: 'zz'; extra: none)", wrap("--exclude zz \"$@\"")},
         {"zip", listback + "(missing: none; extra: 'a')", wrap("\"$@\" a")},
         {"tar.gz", "names with control characters (line breaks, tabs, ...) cannot be packaged: $'./bin/a\\nb'", named("a\nb")},
