@@ -3,11 +3,15 @@
 #include <sys/prctl.h>
 #include <sys/wait.h>
 
+#include <filesystem>
+#include <set>
+
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QPushButton>
 #include <QtTest>
 
+#include "extractor.h"
 #include "launcher.h"
 #include "notify-adapter.h"
 #include "progress-dialog.h"
@@ -160,39 +164,81 @@ TEST(SingleInstance, OneHolderAtATimeAndAnEndedOneFreesTheGuard) {
     EXPECT_TRUE(exists(socket.toStdString() + "-lockfile"));
 }
 
+// Each case runs the packager with its own temporary folder and a wrapper bsdtar, when the case
+// writes one, first on PATH. A refusal gives its reason, exit 1 and leaves nothing behind; a package
+// lists INFO last, and the launcher's extractor makes exactly the folder's names of it.
 TEST(Packager, RefusesUnsafeFoldersAndWritesInfoLast) {
+    using Twist = std::function<void(const std::string&)>;
     const std::string info = "[Version]\nbuild_version=7\n";
     std::unique_ptr<QLocalServer> server;
-    const std::tuple<const char*, const char*, std::function<void(const std::string&)>> cases[] = {
-        {"tar.gz", "good", nullptr}, {"zip", "good", nullptr}, {"7z", "good", nullptr},
-        {"tar.gz", "hard link", [](const std::string& d) { link((d + "/a").c_str(), (d + "/hard").c_str()); }},
-        {"tar.gz", "absolute symlink", [](const std::string& d) { make_link("/etc/hostname", d + "/abs"); }},
-        {"tar.gz", "symlink leading outside", [](const std::string& d) { make_link("../../elsewhere", d + "/bin/up"); }},
-        {"tar.gz", "FIFO", [](const std::string& d) { mkfifo((d + "/fifo").c_str(), 0600); }},
-        {"zip", "socket", [&](const std::string& d) { (server = std::make_unique<QLocalServer>())->listen(q(d + "/s")); }},
-        {"tar.gz", "name not UTF-8", [](const std::string& d) { write_file(d + "/bad\xff", "x"); }},
-        {"tar.gz", "no INFO", [](const std::string& d) { unlink((d + "/INFO").c_str()); }},
-        {"7z", "INFO without numeric build", [](const std::string& d) { write_file(d + "/INFO", "[Version]\nbuild_version=v7\n"); }},
+    const auto named = [](std::string name) -> Twist { return [name](const std::string& d) { write_file(d + "/bin/" + name, "x"); }; };
+    // Odd but legal: a name bsdtar -T would take for an option, quotes, a leading backslash, NFC and NFD, U+0085.
+    const Twist odd = [](const std::string& d) {
+        for (const char* n : {"-C", "bin/-x y", "it's \"*\"", "\\123", "Jos\xc3\xa9", "Jose\xcc\x81", "nel\xc2\x85"})
+            write_file(d + "/" + n, n);
     };
-    for (const auto& [format, what, twist] : cases) {
+    // bsdtar that, when it creates, runs with these arguments instead.
+    const auto wrap = [](std::string args) -> Twist { return [args](const std::string& d) {
+        write_file(d + "/../wrap/bsdtar", "#!/bin/sh\n[ \"$1\" = -c ] && set -- " + args + "\nexec /usr/bin/bsdtar \"$@\"\n");
+        chmod((d + "/../wrap/bsdtar").c_str(), 0755);
+    }; };
+    const std::string listback = "the archive does not list back as written ";
+    const std::string control = "names with control characters (line breaks, tabs, ...) cannot be packaged: ";
+    const std::tuple<const char*, std::string, Twist> cases[] = {
+        {"tar.gz", "", nullptr}, {"zip", "", nullptr}, {"7z", "", nullptr}, {"tar.gz", "", odd}, {"cpio", "", odd},
+        // 7z keeps names as UTF-16, which readers give back in NFC; zip readers take a top-level '\' for '/'.
+        {"7z", listback + "(missing: $'Jose\\314\\201'; extra: $'Jos\\303\\251')", odd},
+        {"zip", listback + "(missing: '\\123'; extra: '/123')", odd},
+        {"tar.gz", listback + "(missing: 'zz'; extra: none)", wrap("--exclude zz \"$@\"")},
+        {"zip", listback + "(missing: none; extra: 'a')", wrap("\"$@\" a")},
+        {"tar.gz", control + "$'./bin/a\\nb'", named("a\nb")}, {"tar.gz", control + "$'./bin/a\\tb'", named("a\tb")},
+        {"tar.gz", control + "$'./bin/c\\001'", named("c\x01")}, {"tar.gz", control + "$'./bin/d\\177'", named("d\x7f")},
+        {"tar.gz", "hard links cannot be packaged: ", [](const std::string& d) {
+             for (int i = 0; i < 3000; ++i) link((d + "/a").c_str(), (d + "/h" + std::to_string(i)).c_str());
+         }},
+        {"tar.gz", "absolute symbolic link: ./abs -> /etc/hostname", [](const std::string& d) { make_link("/etc/hostname", d + "/abs"); }},
+        {"tar.gz", "symbolic link leads outside the folder", [](const std::string& d) { make_link("../../elsewhere", d + "/bin/up"); }},
+        {"tar.gz", "devices, FIFOs or sockets cannot be packaged: ./fifo", [](const std::string& d) { mkfifo((d + "/fifo").c_str(), 0600); }},
+        {"zip", "devices, FIFOs or sockets cannot be packaged: ./s", [&](const std::string& d) {
+             (server = std::make_unique<QLocalServer>())->listen(q(d + "/s"));
+         }},
+        {"tar.gz", "names that are not valid UTF-8", [](const std::string& d) { write_file(d + "/bad\xff", "x"); }},
+        {"tar.gz", "has no INFO file", [](const std::string& d) { unlink((d + "/INFO").c_str()); }},
+        {"7z", "no numeric [Version] build_version (found 'v7')", [](const std::string& d) {  // a long INFO: read to its end
+             std::string lots = "[Version]\n";
+             for (int i = 0; i < 100000; ++i) lots += "build_version=v7\n";
+             write_file(d + "/INFO", lots);
+         }},
+    };
+    const auto names = [](const std::string& root) {
+        std::set<std::string> found;
+        for (const auto& e : std::filesystem::recursive_directory_iterator(root)) found.insert(e.path().string().substr(root.size()));
+        return found;
+    };
+    for (const auto& [format, expect, twist] : cases) {
         TempDir tmp;
         // Names that sort after INFO, and a link that stays inside.
         make_tree(tmp.path(), {{"/c", "/"}, {"/c/INFO", info}, {"/c/a", "a"}, {"/c/bin", "/"}, {"/c/bin/lumora-ui", "ui"},
-                               {"/c/bin/ui", "->lumora-ui"}, {"/c/zz", "z"}});
+                               {"/c/bin/ui", "->lumora-ui"}, {"/c/zz", "z"}, {"/wrap", "/"}, {"/tmp", "/"}, {"/x", "/"}});
         if (twist) twist(tmp / "c");
-        const auto [rc, out, err] = run(MAKE_PACKAGE, {"--format", format, q(tmp / "c"), q(tmp / "out")});
+        const auto [rc, out, err] = run("env", {q("PATH=" + (tmp / "wrap:") + getenv("PATH")), q("TMPDIR=" + (tmp / "tmp")), MAKE_PACKAGE,
+                                                "--format", format, q(tmp / "c"), q(tmp / "out")});
         server.reset();
-        if (twist) {
-            EXPECT_EQ(rc, 1) << what;
-            EXPECT_TRUE(err.startsWith("make-package: ")) << what << ": " << err.toStdString();
-            EXPECT_FALSE(exists(tmp / "out")) << what;
+        EXPECT_TRUE(QDir(q(tmp / "tmp")).isEmpty()) << expect;
+        if (!expect.empty()) {
+            EXPECT_EQ(rc, 1) << expect;
+            EXPECT_TRUE(err.startsWith("make-package: ") && err.contains(expect.c_str())) << expect << "\n" << err.toStdString();
+            EXPECT_FALSE(exists(tmp / "out")) << expect;
             continue;
         }
-        ASSERT_EQ(rc, 0) << format << ": " << err.toStdString();
+        EXPECT_EQ(rc, 0) << format << ": " << err.toStdString();
+        if (rc != 0) continue;
         const QByteArray listed = std::get<1>(run("bsdtar", {"-tf", q(tmp / "out/lumora.lpk")}));
         const QStringList files = QString::fromUtf8(listed).split('\n', Qt::SkipEmptyParts).filter(QRegularExpression("[^/]$"));
         EXPECT_EQ(files.value(files.size() - 1), "INFO") << format;
         EXPECT_EQ(read_file(tmp / "out/INFO"), info) << format;
+        EXPECT_EQ((Extractor{tmp / "x", tmp / "out/lumora.lpk"}).Extract(), 0) << format;
+        EXPECT_EQ(names(tmp / "x"), names(tmp / "c")) << format;
     }
 }
 
