@@ -201,20 +201,29 @@ TEST_F(LauncherE2E, SecondInstanceIsRefusedAtOnceWhileTheFirstRuns) {
     }
 }
 
-// Names are UTF-8 bytes whatever the locale: without locale variables, or with C or POSIX, the package
-// installs byte for byte as under a UTF-8 locale.
+// Names are UTF-8 bytes whatever the locale: without locale variables, or with C or POSIX, a package written as
+// most are (UTF-8 names, made under a UTF-8 locale) installs byte for byte as under a UTF-8 locale.
 TEST_F(LauncherE2E, EveryLocaleInstallsThePackageByteForByte) {
-    const std::string nfc = "\xC3\xA9t\xC3\xA9";
-    put_package({{"/bin", "/"}, {"/bin/lumora-ui", "#!/bin/sh\n"}, {"/données", "/"}, {"/données/" + nfc, nfc}, {"/日本語", "->données/" + nfc}});
-    Tree reference;
-    for (const QStringList& locale : {QStringList{"LANG=C.UTF-8"}, {}, {"LANG=C"}, {"LC_ALL=POSIX"}, {"LANG=C.UTF-8", "LC_ALL=C"}}) {
-        set_home("home-" + std::to_string(reference.size()) + locale.join("-").toStdString());
-        EXPECT_EQ(finish(*start(false, bare_env() << locale)), 0) << locale.join(" ").toStdString();
-        if (reference.empty()) reference = snapshot(app);
-        else EXPECT_EQ(snapshot(app), reference) << locale.join(" ").toStdString();
+    const std::string nfd = "cafe\xCC\x81", nfc = "\xC3\xA9t\xC3\xA9";
+    put_package({{"/bin", "/"}, {"/bin/lumora-ui", "#!/bin/sh\n"}, {"/données", "/"}, {"/données/" + nfc, nfc}, {"/" + nfd, nfd},
+                 {"/日本語", "->données/" + nfc}});
+    for (const char* format : {"pax", "zip"}) {
+        QProcess bsdtar;
+        bsdtar.setEnvironment({"LC_ALL=C.UTF-8", "PATH=/usr/bin:/bin"});
+        bsdtar.start("bsdtar", {"-c", "--format", format, "-f", q(pkg), "-n", "-C", q(tmp / "client"), "bin", "bin/lumora-ui", "données",
+                                "données/" + q(nfc), q(nfd), "日本語", "INFO"});
+        ASSERT_TRUE(bsdtar.waitForFinished() && bsdtar.exitCode() == 0);
+        Tree reference;
+        for (const QStringList& locale : {QStringList{"LANG=C.UTF-8"}, {}, {"LANG=C"}, {"LC_ALL=POSIX"}, {"LANG=C.UTF-8", "LC_ALL=C"}}) {
+            set_home(std::string("home-") + format + std::to_string(reference.size()) + locale.join("-").toStdString());
+            EXPECT_EQ(finish(*start(false, bare_env() << locale)), 0) << locale.join(" ").toStdString();
+            if (reference.empty()) reference = snapshot(app);
+            else EXPECT_EQ(snapshot(app), reference) << format << " " << locale.join(" ").toStdString();
+        }
+        EXPECT_EQ(reference["données/" + nfc], nfc + " mode 420") << format;
+        EXPECT_EQ(reference["日本語"], "->données/" + nfc) << format;
+        EXPECT_EQ(reference.size(), 7u) << format;
     }
-    EXPECT_EQ(reference["données/" + nfc], nfc + " mode 420");
-    EXPECT_EQ(reference["日本語"], "->données/" + nfc);
 }
 
 // The client gets the launcher's standard streams and nothing else: no log, guard, socket or archive.
