@@ -1,8 +1,10 @@
 // The platform seam: a path's stored form, asked for in another case or Unicode form, and file-system type names.
 #include "fs-platform.h"
 
+#include <langinfo.h>
 #include <unistd.h>
 #include <cerrno>
+#include <clocale>
 
 #include <gtest/gtest.h>
 
@@ -42,6 +44,28 @@ TEST(FsPlatformTest, ResolvesToTheStoredForm) {
         {"link/INNER", "Link/Inner"}, {tmp / "DIR", tmp / "Dir*"}};
     for (const auto& [ask, stored] : cases) EXPECT_EQ(Resolve(ask), stored) << ask;
     EXPECT_EQ(chdir("/"), 0);  // out of the folder about to be removed
+}
+
+// Only the Unicode form may differ from what is stored; the letter case may not.
+TEST(FsPlatformTest, FindsTheStoredFormOfAnotherUnicodeSpellingOnly) {
+    testsupport::TempDir tmp;
+    testsupport::make_tree(tmp.path(), {{"/d" + kEd, "/"}, {"/d" + kEd + "/n" + kE, "x"}, {"/Dir", "/"}, {"/Dangling", "->nowhere"}});
+    const std::pair<std::string, std::string> cases[] = {{"d" + kE + "/n" + kEd, "d" + kEd + "/n" + kE}, {"Dir", "Dir"},
+        {"Dangling", "Dangling"}, {"dir", "-"}, {"D" + kEd, "-"}, {"d" + kE + "/missing", "-"}, {"", "-"}};
+    for (const auto& [ask, stored] : cases) {
+        std::string found;
+        EXPECT_EQ(FSFindStoredForm((ask.empty() ? ask : tmp / ask).c_str(), found) == 0 ? found : "-", stored.empty() || stored == "-" ? stored : tmp / stored) << ask;
+    }
+}
+
+// Names become UTF-8 for the C library; the other categories keep what the environment gave them.
+TEST(FsPlatformTest, Utf8NamesChangeOnlyTheCharacterType) {
+    ASSERT_TRUE(setlocale(LC_ALL, "C") && setlocale(LC_TIME, "C.UTF-8"));
+    EXPECT_EQ(FSUseUtf8Names(), 0);
+    EXPECT_STREQ(nl_langinfo(CODESET), "UTF-8");
+    EXPECT_STREQ(setlocale(LC_TIME, nullptr), "C.UTF-8");
+    EXPECT_STREQ(setlocale(LC_MESSAGES, nullptr), "C");
+    setlocale(LC_ALL, "C");
 }
 
 TEST(FsPlatformTest, FileSystemTypeNames) {

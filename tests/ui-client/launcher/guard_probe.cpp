@@ -1,5 +1,5 @@
 // Takes the single-instance guard and reports: prints "running" when another instance holds it,
-// else "first" and then holds it for the number of milliseconds in argv[1] (default 0).
+// else "first" (and on standard error why the lock could not guard it, if so) and then holds it for the number of milliseconds in argv[1] (default 0).
 #include <QTimer>
 
 #include <cstdio>
@@ -16,6 +16,7 @@ int main(int argc, char** argv) {
     }
     std::printf("first\n");
     std::fflush(stdout);
+    std::fprintf(stderr, "%s\n", qPrintable(app.guardWarning()));
     QTimer::singleShot(argc > 1 ? std::atoi(argv[1]) : 0, &app, &QCoreApplication::quit);
     return app.exec();
 }

@@ -127,14 +127,34 @@ QString said(QProcess& p) {
     return QString::fromUtf8(p.readLine()).trimmed();
 }
 
+// A guard probe that holds the guard hold_ms if it gets it, with `temp` as its temp folder. Qt's leaks at its exit
+// are not the guard's; a preloaded library comes before the sanitizer's.
+std::unique_ptr<QProcess> start_probe(const TempDir& temp, int hold_ms, const QString& preload = "") {
+    auto p = std::make_unique<QProcess>();
+    p->start("env", {"ASAN_OPTIONS=detect_leaks=0:verify_asan_link_order=0", "LD_PRELOAD=" + preload, "TMPDIR=" + q(temp.path()),
+                     GUARD_PROBE, QString::number(hold_ms)});
+    return p;
+}
+
+// Where no lock can be taken (no lock service: ENOLCK), that is no other instance: the probe says why and
+// guards itself by its local name, which refuses a second one and ends with its holder, crashed or not.
+TEST(SingleInstance, ALockThatCannotBeTakenFallsBackOnAGuardThatEndsWithItsHolder) {
+    TempDir tmp;
+    auto holder = start_probe(tmp, 3000, LOCK_FAILS);
+    ASSERT_EQ(said(*holder), "first");
+    EXPECT_EQ(said(*start_probe(tmp, 0, LOCK_FAILS)), "running");
+    EXPECT_EQ(said(*start_probe(tmp, 0)), "running") << "an instance whose lock works sees it too";
+    holder->kill();
+    holder->waitForFinished();
+    auto next = start_probe(tmp, 0, LOCK_FAILS);
+    EXPECT_EQ(said(*next), "first");
+    next->waitForFinished();
+    EXPECT_TRUE(next->readAllStandardError().contains("cannot be used (No locks available, 37); guarded by its local name instead"));
+}
+
 TEST(SingleInstance, OneHolderAtATimeAndAnEndedOneFreesTheGuard) {
     TempDir tmp;
-    // Each holds the guard hold_ms if it gets it; its temp folder is ours. Qt's leaks at its exit are not the guard's.
-    const auto start_probe = [&tmp](int hold_ms) {
-        auto p = std::make_unique<QProcess>();
-        p->start("env", {"ASAN_OPTIONS=detect_leaks=0", "TMPDIR=" + q(tmp.path()), GUARD_PROBE, QString::number(hold_ms)});
-        return p;
-    };
+    const auto start_probe = [&tmp](int hold_ms) { return ::start_probe(tmp, hold_ms); };
     // The holder listens on "<lock file name without -lockfile>" in the same folder.
     const QString socket = q(tmp.path()) + "/qtsingleapp-guardp-" +
                            QString::number(qChecksum(QByteArray(GUARD_PROBE).constData(), sizeof GUARD_PROBE - 1), 16) + "-" +
