@@ -61,7 +61,12 @@ Service::~Service() = default;
 
 void Service::SetTimeout(int value) { timeout = value; }
 
-ustring Service::GetUserInstallPath() { return utf8(QDir::homePath()); }
+// In the form the home folder is stored in, should HOME spell it in another Unicode form.
+ustring Service::GetUserInstallPath() {
+    ustring home = utf8(QDir::homePath());
+    FSGetStoredForm(home);
+    return home;
+}
 
 ustring Service::GetRootLumoraInstallPath() {
     return utf8(QDir::cleanPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../..")));

@@ -57,7 +57,8 @@ static Tree snapshot(const std::string& root, Tree tree = {}) {  // relative pat
 
 enum Twist { kPlain, kNoBinary, kCorrupt, kRunning, kRelative, kLockedFolders }; enum Outcome { kInstalled, kKept, kRolledBack };
 // installed: the app folder's build, 0 for none; bundle: the build the bundle's INFO names, 0 as built (100).
-struct Case { const char* name; int installed, bundle; Twist twist; Outcome outcome; const char* home = "home"; };
+// home: the home folder's name as stored; asked: as HOME spells it, when otherwise.
+struct Case { const char* name; int installed, bundle; Twist twist; Outcome outcome; const char* home = "home", *asked = nullptr; };
 const char* const kNfdHome = "Jose\xCC\x81 Mu\xCC\x88ller";  // stored decomposed, as copied from another system
 void PrintTo(const Case& c, std::ostream* os) { *os << c.name; }
 
@@ -149,11 +150,15 @@ TEST_P(LauncherE2E, LeavesTheInstallAndStartsTheClient) {
     give_to_user(tmp.path());
     std::unique_ptr<Child> old_client(c.twist == kRunning ? new Child(bin) : nullptr);  // it exits 0 on SIGTERM
     ASSERT_TRUE(!old_client || pid_file_names(old_client->pid));
-    EXPECT_EQ(finish(*start(c.twist == kRelative)), 0);
+    QStringList env = QProcess::systemEnvironment();
+    if (c.asked) env = env.filter(QRegularExpression("^(?!HOME=)")) << "HOME=" + q(tmp / c.asked);
+    EXPECT_EQ(finish(*start(c.twist == kRelative, env)), 0);
     EXPECT_EQ(out, "lib path = '" + (c.twist == kRelative ? "../Frameworks/plugins" : bundle + "/Contents/Frameworks/plugins") + "'\n");
     if (c.outcome == kInstalled) fs::create_directories(tmp / "unpacked"), QProcess::execute("bsdtar", {"-xf", q(pkg), "-C", q(tmp / "unpacked")});
     EXPECT_EQ(snapshot(app), c.outcome == kInstalled ? snapshot(tmp / "unpacked") : old);
     EXPECT_FALSE(exists(app + "_tmp"));
+    for (const char* made : {"/.Lumora/app", "/.Lumora/log"})  // the client may make its own folder there, not the launcher
+        EXPECT_TRUE(!c.asked || !exists(tmp / c.asked + made)) << "a second home in the other form";
     // Stopped by SIGTERM, on which it exits 0, not by the SIGKILL five seconds later.
     EXPECT_TRUE(!old_client || (secs < 3 && wait_for([&] { return old_client->status == 0; }))) << secs;
     EXPECT_GT(client(old_client ? old_client->pid : 0), 0);
@@ -169,6 +174,7 @@ INSTANTIATE_TEST_SUITE_P(Cases, LauncherE2E, ::testing::Values(
     Case{"RelativeArgv0", 0, 0, kRelative, kInstalled}, Case{"NonAsciiHome", 0, 0, kPlain, kInstalled, "Jérôme 数据"},
     Case{"NfdHomeFirstInstall", 0, 0, kPlain, kInstalled, kNfdHome}, Case{"NfdHomeCurrentInstall", 100, 0, kPlain, kKept, kNfdHome},
     Case{"NfdHomeUpgradeStopsRunningClient", 99, 0, kRunning, kInstalled, kNfdHome},
+    Case{"NfdHomeAskedForInNfc", 99, 0, kRunning, kInstalled, kNfdHome, "Jos\xC3\xA9 M\xC3\xBCller"},
     Case{"LockedFoldersOfADamagedPackageRollBack", 99, 0, kLockedFolders, kRolledBack}),
     [](const ::testing::TestParamInfo<Case>& i) { return std::string(i.param.name); });
 
