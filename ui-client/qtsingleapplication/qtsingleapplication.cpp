@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <cstring>
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 
@@ -46,6 +47,11 @@ QtSingleApplication::QtSingleApplication(int& argc, char** argv, bool /*GUIenabl
                    QString::number(::getuid(), 16);
     socket_path_ = QDir(QDir::tempPath()).absolutePath() + QLatin1Char('/') + socket_name_;
     lock_name_ = socket_path_ + QStringLiteral("-lockfile");
+    // The claimed name stands for the socket's path, so instances with other temp folders stay apart
+    // as their locks do. Abstract names are short: a long path is represented by its hash.
+    const QByteArray path = QFile::encodeName(socket_path_);
+    claim_name_ = path.size() <= 100 ? path
+                                     : socket_name_.toUtf8() + '-' + QCryptographicHash::hash(path, QCryptographicHash::Sha1).toHex();
 }
 
 QtSingleApplication::~QtSingleApplication() {
@@ -80,7 +86,7 @@ bool QtSingleApplication::takeGuard() {
         return takeFallbackGuard(err);
     }
     // Holding the name too lets an instance whose lock fails see this one.
-    name_fd_ = FSClaimLocalName(socket_name_.toUtf8().constData());
+    name_fd_ = FSClaimLocalName(claim_name_.constData());
     if (name_fd_ < 0 && errno == EADDRINUSE) return false;
     listen();
     return true;
@@ -88,7 +94,7 @@ bool QtSingleApplication::takeGuard() {
 
 bool QtSingleApplication::takeFallbackGuard(int lock_error) {
     QString guard;
-    name_fd_ = FSClaimLocalName(socket_name_.toUtf8().constData());
+    name_fd_ = FSClaimLocalName(claim_name_.constData());
     if (name_fd_ >= 0) {
         guard = QStringLiteral("guarded by its local name instead");
     } else if (errno == EADDRINUSE || holderAnswers()) {

@@ -47,6 +47,7 @@ private:
     QString socket_name_;
     QString lock_name_;
     QString socket_path_;
+    QByteArray claim_name_;
     QString guard_warning_;
     int lock_fd_ = -1;
     int name_fd_ = -1;

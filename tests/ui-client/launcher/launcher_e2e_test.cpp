@@ -20,6 +20,11 @@ static QString q(const std::string& s) { return QString::fromStdString(s); }
 // As root, the launcher and the clients run as nobody, so that file modes stop them as they stop a user.
 static const bool kRoot = geteuid() == 0;
 static const uid_t kUser = 65534;
+// The environment with one variable set ("NAME=value"), replacing what it had.
+static QStringList with(QStringList env, const QString& assignment) {
+    env = env.filter(QRegularExpression("^(?!" + QRegularExpression::escape(assignment.section('=', 0, 0)) + "=)"));
+    return env << assignment;
+}
 static void give_to_user(const std::string& root) {
     if (kRoot) nftw(root.c_str(), [](const char* p, const struct stat*, int, struct FTW*) { return lchown(p, kUser, kUser), 0; }, 16, FTW_PHYS);
 }
@@ -87,8 +92,7 @@ protected:
     std::unique_ptr<QProcess> start(bool relative = false, QStringList env = QProcess::systemEnvironment()) {
         give_to_user(tmp.path());
         auto p = std::make_unique<QProcess>();
-        if (env.filter(QRegularExpression("^TMPDIR=")).isEmpty()) env << "TMPDIR=" + q(tmp.path());  // the guard's lock file
-        p->setEnvironment(env);
+        p->setEnvironment(with(env, "TMPDIR=" + q(temp.empty() ? tmp.path() : temp)));  // the guard's lock file goes there
         if (relative) p->setWorkingDirectory(q(bundle + "/Contents/MacOS"));
         const QString launcher = relative ? "./launcher" : q(bundle + "/Contents/MacOS/launcher");
         QStringList args = wrapper;
@@ -129,6 +133,7 @@ protected:
     }
     TempDir tmp;
     QStringList wrapper;  // a program the launcher runs under
+    std::string temp;  // its temp folder, if not tmp
     std::string bundle = tmp / "Lumora.app", pkg = bundle + "/Contents/Resources/package/lumora.lpk", home, user, app, bin, out;
     double secs = 0;
 };
@@ -150,9 +155,8 @@ TEST_P(LauncherE2E, LeavesTheInstallAndStartsTheClient) {
     give_to_user(tmp.path());
     std::unique_ptr<Child> old_client(c.twist == kRunning ? new Child(bin) : nullptr);  // it exits 0 on SIGTERM
     ASSERT_TRUE(!old_client || pid_file_names(old_client->pid));
-    QStringList env = QProcess::systemEnvironment();
-    if (c.asked) env = env.filter(QRegularExpression("^(?!HOME=)")) << "HOME=" + q(tmp / c.asked);
-    EXPECT_EQ(finish(*start(c.twist == kRelative, env)), 0);
+    const QStringList env = QProcess::systemEnvironment();
+    EXPECT_EQ(finish(*start(c.twist == kRelative, c.asked ? with(env, "HOME=" + q(tmp / c.asked)) : env)), 0);
     EXPECT_EQ(out, "lib path = '" + (c.twist == kRelative ? "../Frameworks/plugins" : bundle + "/Contents/Frameworks/plugins") + "'\n");
     if (c.outcome == kInstalled) fs::create_directories(tmp / "unpacked"), QProcess::execute("bsdtar", {"-xf", q(pkg), "-C", q(tmp / "unpacked")});
     EXPECT_EQ(snapshot(app), c.outcome == kInstalled ? snapshot(tmp / "unpacked") : old);
@@ -183,26 +187,26 @@ INSTANTIATE_TEST_SUITE_P(Cases, LauncherE2E, ::testing::Values(
 TEST_F(LauncherE2E, SecondInstanceIsRefusedAtOnceWhileTheFirstRuns) {
     ASSERT_EQ(mkfifo((tmp / "fifo").c_str(), 0600), 0);
     write_file(tmp / "file", "");
-    for (const std::string& temp : {tmp.path(), tmp / "file"}) {  // a file: no lock file can be made in it
+    for (const std::string& folder : {tmp.path(), tmp / "file"}) {  // a file: no lock file can be made in it
+        temp = folder;
         set_home("home-" + std::to_string(temp.size()));
         install(99);
         write_file(bin, "#!/bin/bash\ntrap '' TERM\necho \"pid=$$\" > \"$HOME/.Lumora/ui.pid\"\nread -t 30 _ <> '" + tmp / "fifo" + "'\n");
         give_to_user(tmp.path());
         Child stubborn(bin);
         ASSERT_TRUE(pid_file_names(stubborn.pid));
-        const QStringList env = QProcess::systemEnvironment() << "TMPDIR=" + q(temp);
-        const auto first = start(false, env);
+        const auto first = start();
         ASSERT_TRUE(wait_for([&] { return log_of(R"(\[DEBUG\] mac/mac-service\.cpp)").find("local appdata exist") != std::string::npos; }));
-        EXPECT_EQ(finish(*start(false, env)), 0);
+        EXPECT_EQ(finish(*start()), 0);
         EXPECT_LT(secs, 1.5);
         EXPECT_EQ(out, "lib path = '" + bundle + "/Contents/Frameworks/plugins'\n");
         const std::string refused = "[DEBUG] main.cpp(N): app has already launched, return\n", fallback = "[WARNING] main.cpp(N): single-instance lock '" +
             temp + "/qtsingleapp-launch-" + "*" + "' cannot be used (Not a directory, 20); guarded by its local name instead\n";
         const std::string main_lines = std::regex_replace(log_of(R"(\[\w+\] main\.cpp)"), std::regex("launch-[^']*-lockfile"), "launch-*");
-        EXPECT_EQ(main_lines, temp == tmp.path() ? refused : fallback + refused);
+        EXPECT_EQ(main_lines, folder == tmp.path() ? refused : fallback + refused);
         EXPECT_EQ(log_of(R"(\[\w+\] launcher\.cpp)"), "[DEBUG] launcher.cpp(N): running\n");  // the first held the guard throughout
         EXPECT_EQ(finish(*first), 0);
-        EXPECT_EQ(finish(*start(false, env)), 0);  // the guard ends with its holder
+        EXPECT_EQ(finish(*start()), 0);  // the guard ends with its holder
         EXPECT_NE(log_of(R"(\[\w+\] launcher\.cpp)").find("no need to upgrade"), std::string::npos);
     }
 }
@@ -249,7 +253,7 @@ TEST_F(LauncherE2E, AnUpgradeFlushesBeforeItsInfoAndBeforeTheBackupGoes) {
     install(99);
     const std::string trace = tmp / "trace";
     wrapper = QStringList{"strace", "-f", "-qq", "-o", q(trace), "-e", "trace=syncfs,openat,unlink,unlinkat,rmdir"};
-    EXPECT_EQ(finish(*start()), 0);
+    EXPECT_EQ(finish(*start(false, with(QProcess::systemEnvironment(), "ASAN_OPTIONS=detect_leaks=0"))), 0);  // no leak check under ptrace
     std::vector<std::string> events;  // "sync", "write <path in app>", "remove <path in app_tmp>"
     const std::regex sync(R"(syncfs\(\d+\) += 0)"), write(R"x(openat\(AT_FDCWD, ")x" + app + R"x(/([^"]+)", O_WRONLY)x"),
         remove(R"x((?:unlink|unlinkat|rmdir)\((?:AT_FDCWD, )?")x" + app + R"x(_tmp)x");
