@@ -5,7 +5,9 @@
 
 #include <fcntl.h>
 #include <ftw.h>
+#include <signal.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 #if defined(__linux__)
 #include <linux/fs.h>
@@ -15,6 +17,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
+#include <functional>
 #include <iterator>
 #include <map>
 #include <sstream>
@@ -115,6 +118,32 @@ inline void make_tree(const std::string& root, const Tree& tree) {
         else if (content.compare(0, 2, "->") == 0) make_link(content.substr(2), root + rel);
         else write_file(root + rel, content);
     }
+}
+
+// Polls ok every 10 ms, n times at most; whether it came true.
+inline bool wait_for(const std::function<bool()>& ok, int n = 500) {
+    for (; !ok(); --n) {
+        if (n <= 0) return false;
+        usleep(10000);
+    }
+    return true;
+}
+
+// Calls `start`, which forks and gives the child's pid, until the child gets process id `pid`
+// (which must be free); children that missed it are killed. Linux and root only: it sets the
+// kernel's last-given id, and another process may take the id first. The child's pid, or -1.
+template <class Start>
+pid_t at_pid(pid_t pid, Start start) {
+    const std::string last = std::to_string(pid - 1);
+    for (int i = 0; i < 100; ++i) {
+        const int fd = open("/proc/sys/kernel/ns_last_pid", O_WRONLY);
+        const bool set = fd >= 0 && write(fd, last.data(), last.size()) == static_cast<ssize_t>(last.size());
+        if (fd >= 0) close(fd);
+        const pid_t child = set ? start() : -1;
+        if (child == pid || child < 0) return child;
+        kill(child, SIGKILL), waitpid(child, nullptr, 0);
+    }
+    return -1;
 }
 
 }  // namespace testsupport

@@ -15,7 +15,6 @@ using namespace testsupport;
 namespace fs = std::filesystem;
 
 static QString q(const std::string& s) { return QString::fromStdString(s); }
-static bool wait_for(const std::function<bool()>& ok, int n = 500) { return ok() || (n && (usleep(10000), wait_for(ok, n - 1))); }
 
 // A program reaped by a thread the moment it ends, so that the launcher's kill(pid, 0) sees it gone.
 struct Child {
@@ -89,6 +88,15 @@ protected:
         for (std::string l; std::getline(in, l);) if (std::smatch m; std::regex_match(l, m, line)) found += m[1].str() + "(N)" + m[m.size() - 1].str() + "\n";
         return found;
     }
+    Tree package() {  // the package's tree as unpacked
+        fs::create_directories(tmp / "unpacked"), QProcess::execute("bsdtar", {"-xf", q(pkg), "-C", q(tmp / "unpacked")});
+        return snapshot(tmp / "unpacked");
+    }
+    void stubborn_client() {  // a script that ignores SIGTERM and ends when a line comes down the fifo, or after 30 s
+        ASSERT_EQ(mkfifo((tmp / "fifo").c_str(), 0600), 0);
+        write_file(bin, "#!/bin/bash\ntrap '' TERM\necho \"pid=$$\" > \"$HOME/.Lumora/ui.pid\"\nread -t 30 _ <> '" + tmp / "fifo" + "'\n");
+    }
+    bool stop_begun() { return wait_for([&] { return log_of(R"(\[DEBUG\] mac/mac-service\.cpp)").find("local appdata exist") != std::string::npos; }); }
     bool pid_file_names(pid_t pid) { return wait_for([&] { return exists(user + "/ui.pid") && read_file(user + "/ui.pid") == "pid=" + std::to_string(pid) + "\n"; }); }
     pid_t client(pid_t old = 0) {  // once started: our (adopted) child other than `old` running the per-user binary; else 0
         pid_t found = 0;
@@ -113,8 +121,7 @@ TEST_P(LauncherE2E, LeavesTheInstallAndStartsTheClient) {
     ASSERT_TRUE(!old_client || pid_file_names(old_client->pid));
     EXPECT_EQ(finish(*start(c.twist == kRelative)), 0);
     EXPECT_EQ(out, "lib path = '" + (c.twist == kRelative ? "../Frameworks/plugins" : bundle + "/Contents/Frameworks/plugins") + "'\n");
-    if (c.outcome == kInstalled) fs::create_directories(tmp / "unpacked"), QProcess::execute("bsdtar", {"-xf", q(pkg), "-C", q(tmp / "unpacked")});
-    EXPECT_EQ(snapshot(app), c.outcome == kInstalled ? snapshot(tmp / "unpacked") : old);
+    EXPECT_EQ(snapshot(app), c.outcome == kInstalled ? package() : old);
     EXPECT_FALSE(exists(app + "_tmp"));
     // Stopped by SIGTERM, on which it exits 0, not by the SIGKILL five seconds later.
     EXPECT_TRUE(!old_client || (secs < 3 && wait_for([&] { return old_client->status == 0; }))) << secs;
@@ -135,16 +142,35 @@ INSTANTIATE_TEST_SUITE_P(Cases, LauncherE2E, ::testing::Values(
 TEST_F(LauncherE2E, SecondInstanceIsRefusedAtOnceWhileTheFirstRuns) {
     set_home("home");
     install(99);
-    ASSERT_EQ(mkfifo((tmp / "fifo").c_str(), 0600), 0);
-    write_file(bin, "#!/bin/bash\ntrap '' TERM\necho \"pid=$$\" > \"$HOME/.Lumora/ui.pid\"\nread -t 30 _ <> '" + tmp / "fifo" + "'\n");
+    stubborn_client();
     Child stubborn(bin);
     ASSERT_TRUE(pid_file_names(stubborn.pid));
     const auto first = start();
-    ASSERT_TRUE(wait_for([&] { return log_of(R"(\[DEBUG\] mac/mac-service\.cpp)").find("local appdata exist") != std::string::npos; }));
+    ASSERT_TRUE(stop_begun());
     EXPECT_EQ(finish(*start()), 0);
     EXPECT_LT(secs, 1.5);
     EXPECT_EQ(out, "lib path = '" + bundle + "/Contents/Frameworks/plugins'\n");
     EXPECT_EQ(log_of(R"(\[\w+\] main\.cpp)"), "[DEBUG] main.cpp(N): app has already launched, return\n");
     EXPECT_EQ(log_of(R"(\[\w+\] launcher\.cpp)"), "[DEBUG] launcher.cpp(N): running\n");  // the first held the guard throughout
     EXPECT_EQ(finish(*first), 0);
+}
+
+// The old client outlives SIGTERM and exits 2.5 s later; another program takes its pid before the SIGKILL moment.
+TEST_F(LauncherE2E, UpgradeNeverSignalsTheProgramThatTookTheClientsPid) {
+    if (geteuid() != 0) GTEST_SKIP() << "taking a given pid needs root";
+    set_home("home");
+    install(99);
+    stubborn_client();
+    Child old(bin);
+    ASSERT_TRUE(pid_file_names(old.pid));
+    const auto launcher = start();
+    ASSERT_TRUE(stop_begun());
+    usleep(2500000), write_file(tmp / "fifo", "end\n");
+    ASSERT_TRUE(wait_for([&] { return old.status != -1; }));
+    const pid_t taker = at_pid(old.pid, [] { const pid_t p = fork(); return p ? p : (execl("/bin/sleep", "sleep", "30", nullptr), _exit(127), 0); });
+    EXPECT_EQ(taker, old.pid);
+    EXPECT_EQ(finish(*launcher), 0);
+    EXPECT_EQ(waitpid(taker, nullptr, WNOHANG), 0) << "the program that took the client's pid was signalled";
+    EXPECT_EQ(snapshot(app), package());
+    EXPECT_EQ(log_of(R"(\[ERROR\] [\w/.-]+|\[NOTE\] mac/mac-service\.cpp)"), "");
 }
