@@ -43,6 +43,7 @@ int FSProcessReadInfo(long pid, FSProcessInfo& info) {
     // With arg 0 the kernel does not look among zombies: a zombie fails with ESRCH as a gone
     // process does. Another user's process fails with EPERM and keeps its start time unknown.
     struct proc_bsdinfo bsd;
+    errno = 0;
     if (proc_pidinfo(id, PROC_PIDTBSDINFO, 0, &bsd, sizeof bsd) == static_cast<int>(sizeof bsd))
         info.start = bsd.pbi_start_tvsec * 1000000ull + bsd.pbi_start_tvusec;
     else if (errno == ESRCH)
