@@ -12,6 +12,7 @@
 #include <langinfo.h>
 #include <linux/close_range.h>
 #include <linux/magic.h>
+#include <poll.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
@@ -21,12 +22,14 @@
 #include <unicode/uchar.h>
 #include <unicode/ustring.h>
 
+#include <cerrno>
 #include <climits>
 #include <clocale>
 #include <cstddef>
 #include <cstdlib>
 #include <cstring>
 #include <fstream>
+#include <sstream>
 #include <string>
 
 #include "fs-platform-linux.h"
@@ -230,41 +233,54 @@ int FSFileSystemTypeName(const char* path, std::string& name) {
 
 namespace {
 
-// realpath, or empty when the path cannot be resolved.
-std::string resolved(const std::string& path) {
-    char buf[PATH_MAX];
-    return realpath(path.c_str(), buf) ? std::string(buf) : std::string();
-}
-
-// The first arguments of a command line: the program, then (for an interpreter) its options
-// and the script. Relative names are taken from the process's working folder.
-bool command_line_names(const std::string& proc, const std::string& target, bool& readable) {
-    std::ifstream in(proc + "/cmdline", std::ios::binary);
-    std::string arg;
-    readable = false;
-    for (int i = 0; i < 3 && std::getline(in, arg, '\0'); ++i) {
-        readable = true;
-        if (arg.empty()) continue;
-        const std::string path = arg[0] == '/' ? arg : proc + "/cwd/" + arg;
-        if (resolved(path) == target) return true;
-    }
-    return false;
-}
+bool pidfd_enabled = true;
 
 }  // namespace
 
-int FSProcessRunsProgram(long pid, const char* program_path) {
-    const std::string target = resolved(program_path);
-    if (pid <= 0 || target.empty()) return -1;
-    const std::string proc = "/proc/" + std::to_string(pid);
+void FSPidfdEnable(bool on) { pidfd_enabled = on; }
 
-    char exe[PATH_MAX];
-    const ssize_t n = readlink((proc + "/exe").c_str(), exe, sizeof exe - 1);
-    if (n > 0) {
-        exe[n] = 0;
-        if (resolved(exe) == target) return 1;
+int FSPidfdOpen(long pid) {
+    if (!pidfd_enabled) {
+        errno = ENOSYS;
+        return -1;
     }
-    bool readable = false;
-    if (command_line_names(proc, target, readable)) return 1;
-    return n > 0 || readable ? 0 : -1;
+    return static_cast<int>(syscall(SYS_pidfd_open, static_cast<pid_t>(pid), 0));  // close-on-exec
+}
+
+int FSPidfdSignal(int fd, int sig) { return static_cast<int>(syscall(SYS_pidfd_send_signal, fd, sig, nullptr, 0)); }
+
+int FSPidfdExited(int fd) {
+    pollfd p = {fd, POLLIN, 0};
+    return poll(&p, 1, 0) == 1 && (p.revents & POLLIN) ? 1 : 0;
+}
+
+int FSProcessReadInfo(long pid, FSProcessInfo& info) {
+    info = FSProcessInfo();
+    errno = ESRCH;
+    const std::string proc = "/proc/" + std::to_string(pid);
+    const int fd = pid > 0 ? open((proc + "/stat").c_str(), O_RDONLY | O_CLOEXEC) : -1;
+    char buf[1024];
+    const ssize_t got = fd >= 0 ? read(fd, buf, sizeof buf - 1) : -1;
+    if (fd >= 0) close(fd);
+    if (got <= 0 && (errno == ENOENT || errno == ESRCH)) return -1;
+    if (got > 0) {
+        // "pid (name) state ppid ...": the name may hold anything, so fields count from the last ')'.
+        const std::string stat(buf, static_cast<size_t>(got));
+        std::istringstream fields(stat.substr(stat.rfind(')') + 1));
+        std::string state, field;
+        fields >> state;
+        for (int i = 4; i < 22; ++i) fields >> field;
+        fields >> info.start;  // field 22: clock ticks after boot
+        if (state == "Z" || state == "X") {
+            errno = ESRCH;
+            return -1;
+        }
+    }
+    char exe[PATH_MAX], real[PATH_MAX];
+    const ssize_t n = readlink((proc + "/exe").c_str(), exe, sizeof exe - 1);
+    if (n > 0 && (exe[n] = 0, realpath(exe, real))) info.exe = real;
+    std::ifstream cmdline(proc + "/cmdline", std::ios::binary);
+    for (std::string arg; std::getline(cmdline, arg, '\0');) info.argv.push_back(arg);
+    info.cwd = proc + "/cwd";  // the link resolves even where the folder's name does not
+    return 0;
 }

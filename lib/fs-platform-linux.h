@@ -5,4 +5,7 @@
 // The statfs type name for a kernel file-system magic number; "unknown" for others.
 const char* FSFileSystemTypeNameOfMagic(unsigned long magic);
 
+// Off: FSPidfdOpen fails with ENOSYS, as on a kernel without pidfds, so FSProcess falls back.
+void FSPidfdEnable(bool on);
+
 #endif

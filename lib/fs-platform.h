@@ -10,6 +10,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #if defined(__APPLE__)
 #include <CoreServices/CoreServices.h>
@@ -63,9 +64,54 @@ int FSClaimLocalName(const char* name);
 // none of them, whoever opened them.
 void FSCloseOnExecFrom(int first);
 
-// Whether process pid runs the program at program_path: its executable, or for an interpreted
-// script the script named in its command line, is that file (links resolved). 1 yes, 0 no,
-// -1 when the process's identity cannot be read (gone, a zombie, or not ours to inspect).
-int FSProcessRunsProgram(long pid, const char* program_path);
+// What the platform tells of a live process. What it cannot read stays empty or 0.
+struct FSProcessInfo {
+    std::string exe;                // the executable, links resolved
+    std::vector<std::string> argv;  // the command line
+    std::string cwd;                // a folder that relative arguments resolve against
+    unsigned long long start = 0;   // when it started, in the platform's units
+};
+
+// 0, or -1 when no live process has that id (none at all, or a zombie).
+int FSProcessReadInfo(long pid, FSProcessInfo& info);
+
+// Process descriptors (Linux pidfds): they stay with one process and never pass to a later owner
+// of its id. Open: the descriptor, or -1 with errno (ESRCH: no such process; ENOSYS and others:
+// none to be had). Signal: kill(2) through it. Exited: 1 once the process has exited, a zombie
+// included, else 0.
+int FSPidfdOpen(long pid);
+int FSPidfdSignal(int fd, int sig);
+int FSPidfdExited(int fd);
+
+// One process, held from before its identity is checked until the last signal, so that no signal
+// or probe reaches a later owner of its id: through a process descriptor where there is one, else
+// by checking before each call that the id still names a live process with the start time and the
+// identity seen at approval.
+class FSProcess {
+public:
+    explicit FSProcess(long pid);
+    ~FSProcess();
+    FSProcess(const FSProcess&) = delete;
+    FSProcess& operator=(const FSProcess&) = delete;
+
+    // Whether the held process runs program_path: its executable is that file (links resolved),
+    // or that file is a script whose "#!" interpreter runs it as its script. 1 yes, 0 no, -1 when
+    // its identity cannot be read, or it has ended (ended() then says so).
+    int approve(const char* program_path);
+    // kill(2) on the held process: 0, or -1 with errno, ESRCH once it has ended.
+    int signal(int sig);
+    // It has exited (a zombie counts), or its id now names another process.
+    bool ended();
+
+private:
+    bool same_process();
+
+    long pid_;
+    int fd_ = -1;                   // its descriptor; -1 when the fallback checks are used
+    bool gone_ = false;
+    unsigned long long start_ = 0;  // fallback: the start time when it was taken hold of
+    int verdict_ = -1;              // fallback: approve's answer, which must not change
+    std::string program_;
+};
 
 #endif

@@ -5,7 +5,9 @@
 
 #include <fcntl.h>
 #include <ftw.h>
+#include <signal.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 #if defined(__linux__)
 #include <linux/fs.h>
@@ -15,6 +17,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
+#include <functional>
 #include <iterator>
 #include <map>
 #include <sstream>
@@ -115,6 +118,44 @@ inline void make_tree(const std::string& root, const Tree& tree) {
         else if (content.compare(0, 2, "->") == 0) make_link(content.substr(2), root + rel);
         else write_file(root + rel, content);
     }
+}
+
+// Polls ok every 10 ms, n times at most; whether it came true.
+inline bool wait_for(const std::function<bool()>& ok, int n = 500) {
+    for (; !ok(); --n) {
+        if (n <= 0) return false;
+        usleep(10000);
+    }
+    return true;
+}
+
+// Sets the last process id the kernel gave out: the next fork gets the one after, if free.
+// Linux and root only.
+inline bool set_last_pid(long last) {
+    const std::string text = std::to_string(last);
+    const int fd = open("/proc/sys/kernel/ns_last_pid", O_WRONLY);
+    const bool set = fd >= 0 && write(fd, text.data(), text.size()) == static_cast<ssize_t>(text.size());
+    if (fd >= 0) close(fd);
+    return set;
+}
+
+// Calls `start`, which forks and gives the child's pid, until the child gets process id `pid`
+// (which must be free); children that missed it are killed. Another process may take the id
+// first. The last id given out is put back after, so that other processes do not go on to reuse
+// recently freed ids. The child's pid, or -1.
+template <class Start>
+pid_t at_pid(pid_t pid, Start start) {
+    long before = 0, now = 0;
+    std::ifstream("/proc/sys/kernel/ns_last_pid") >> before;
+    pid_t child = -1;
+    for (int i = 0; i < 100; ++i) {
+        child = set_last_pid(pid - 1) ? start() : -1;
+        if (child == pid || child < 0) break;
+        kill(child, SIGKILL), waitpid(child, nullptr, 0), child = -1;
+    }
+    std::ifstream("/proc/sys/kernel/ns_last_pid") >> now;
+    if (now < before) set_last_pid(before);
+    return child;
 }
 
 }  // namespace testsupport

@@ -25,16 +25,18 @@ static QStringList with(QStringList env, const QString& assignment) {
     env = env.filter(QRegularExpression("^(?!" + QRegularExpression::escape(assignment.section('=', 0, 0)) + "=)"));
     return env << assignment;
 }
+static void become_user() {  // in a child about to exec
+    if (kRoot && (setgroups(0, nullptr) != 0 || setgid(kUser) != 0 || setuid(kUser) != 0)) _exit(126);
+}
 static void give_to_user(const std::string& root) {
     if (kRoot) nftw(root.c_str(), [](const char* p, const struct stat*, int, struct FTW*) { return lchown(p, kUser, kUser), 0; }, 16, FTW_PHYS);
 }
-static bool wait_for(const std::function<bool()>& ok, int n = 500) { return ok() || (n && (usleep(10000), wait_for(ok, n - 1))); }
 
 // A program reaped by a thread the moment it ends, so that the launcher's kill(pid, 0) sees it gone.
 struct Child {
     explicit Child(const std::string& program) : pid(fork()) {
         if (pid == 0) {
-            if (kRoot && (setgroups(0, nullptr) != 0 || setgid(kUser) != 0 || setuid(kUser) != 0)) _exit(126);
+            become_user();
             execl(program.c_str(), program.c_str(), nullptr), _exit(127);
         }
         reaper = std::thread([this] { int st = 0; waitpid(pid, &st, 0); status = st; });
@@ -124,6 +126,16 @@ protected:
         for (std::string l; std::getline(in, l);) if (std::smatch m; std::regex_match(l, m, line)) found += m[1].str() + "(N)" + m[m.size() - 1].str() + "\n";
         return found;
     }
+    Tree package() {  // the package's tree as unpacked
+        fs::create_directories(tmp / "unpacked"), QProcess::execute("bsdtar", {"-xf", q(pkg), "-C", q(tmp / "unpacked")});
+        return snapshot(tmp / "unpacked");
+    }
+    void stubborn_client() {  // a script that ignores SIGTERM and ends when a line comes down the fifo, or after 30 s
+        ASSERT_TRUE(exists(tmp / "fifo") || mkfifo((tmp / "fifo").c_str(), 0600) == 0);
+        write_file(bin, "#!/bin/bash\ntrap '' TERM\necho \"pid=$$\" > \"$HOME/.Lumora/ui.pid\"\nread -t 30 _ <> '" + tmp / "fifo" + "'\n");
+        give_to_user(tmp.path());
+    }
+    bool stop_begun() { return wait_for([&] { return log_of(R"(\[DEBUG\] mac/mac-service\.cpp)").find("local appdata exist") != std::string::npos; }); }
     bool pid_file_names(pid_t pid) { return wait_for([&] { return exists(user + "/ui.pid") && read_file(user + "/ui.pid") == "pid=" + std::to_string(pid) + "\n"; }); }
     pid_t client(pid_t old = 0) {  // once started: our (adopted) child other than `old` running the per-user binary; else 0
         pid_t found = 0;
@@ -158,8 +170,7 @@ TEST_P(LauncherE2E, LeavesTheInstallAndStartsTheClient) {
     const QStringList env = QProcess::systemEnvironment();
     EXPECT_EQ(finish(*start(c.twist == kRelative, c.asked ? with(env, "HOME=" + q(tmp / c.asked)) : env)), 0);
     EXPECT_EQ(out, "lib path = '" + (c.twist == kRelative ? "../Frameworks/plugins" : bundle + "/Contents/Frameworks/plugins") + "'\n");
-    if (c.outcome == kInstalled) fs::create_directories(tmp / "unpacked"), QProcess::execute("bsdtar", {"-xf", q(pkg), "-C", q(tmp / "unpacked")});
-    EXPECT_EQ(snapshot(app), c.outcome == kInstalled ? snapshot(tmp / "unpacked") : old);
+    EXPECT_EQ(snapshot(app), c.outcome == kInstalled ? package() : old);
     EXPECT_FALSE(exists(app + "_tmp"));
     for (const char* made : {"/.Lumora/app", "/.Lumora/log"})  // the client may make its own folder there, not the launcher
         EXPECT_TRUE(!c.asked || !exists(tmp / c.asked + made)) << "a second home in the other form";
@@ -185,18 +196,16 @@ INSTANTIATE_TEST_SUITE_P(Cases, LauncherE2E, ::testing::Values(
 // An old client that ignores SIGTERM holds the first launcher in its stop for some five seconds. Where the
 // lock file cannot even be made, the first instance says so and guards itself by other means.
 TEST_F(LauncherE2E, SecondInstanceIsRefusedAtOnceWhileTheFirstRuns) {
-    ASSERT_EQ(mkfifo((tmp / "fifo").c_str(), 0600), 0);
     write_file(tmp / "file", "");
     for (const std::string& folder : {tmp.path(), tmp / "file"}) {  // a file: no lock file can be made in it
         temp = folder;
         set_home("home-" + std::to_string(temp.size()));
         install(99);
-        write_file(bin, "#!/bin/bash\ntrap '' TERM\necho \"pid=$$\" > \"$HOME/.Lumora/ui.pid\"\nread -t 30 _ <> '" + tmp / "fifo" + "'\n");
-        give_to_user(tmp.path());
+        stubborn_client();
         Child stubborn(bin);
         ASSERT_TRUE(pid_file_names(stubborn.pid));
         const auto first = start();
-        ASSERT_TRUE(wait_for([&] { return log_of(R"(\[DEBUG\] mac/mac-service\.cpp)").find("local appdata exist") != std::string::npos; }));
+        ASSERT_TRUE(stop_begun());
         EXPECT_EQ(finish(*start()), 0);
         EXPECT_LT(secs, 1.5);
         EXPECT_EQ(out, "lib path = '" + bundle + "/Contents/Frameworks/plugins'\n");
@@ -263,4 +272,24 @@ TEST_F(LauncherE2E, AnUpgradeFlushesBeforeItsInfoAndBeforeTheBackupGoes) {
         else if (std::regex_search(l, m, write)) events.push_back("write " + m[1].str());
         else if (std::regex_search(l, m, remove) && (events.empty() || events.back().rfind("remove", 0) != 0)) events.push_back("remove");
     EXPECT_EQ(events, (std::vector<std::string>{"write bin/lumora-ui", "sync", "write INFO", "sync", "remove"}));
+}
+
+// The old client outlives SIGTERM and exits 2.5 s later; another program takes its pid before the SIGKILL moment.
+TEST_F(LauncherE2E, UpgradeNeverSignalsTheProgramThatTookTheClientsPid) {
+    if (geteuid() != 0) GTEST_SKIP() << "taking a given pid needs root";
+    set_home("home");
+    install(99);
+    stubborn_client();
+    Child old(bin);
+    ASSERT_TRUE(pid_file_names(old.pid));
+    const auto launcher = start();
+    ASSERT_TRUE(stop_begun());
+    usleep(2500000), write_file(tmp / "fifo", "end\n");
+    ASSERT_TRUE(wait_for([&] { return old.status != -1; }));
+    const pid_t taker = at_pid(old.pid, [] { const pid_t p = fork(); return p ? p : (become_user(), execl("/bin/sleep", "sleep", "30", nullptr), _exit(127), 0); });
+    EXPECT_EQ(taker, old.pid);
+    EXPECT_EQ(finish(*launcher), 0);
+    EXPECT_EQ(waitpid(taker, nullptr, WNOHANG), 0) << "the program that took the client's pid was signalled";
+    EXPECT_EQ(snapshot(app), package());
+    EXPECT_EQ(log_of(R"(\[ERROR\] [\w/.-]+|\[NOTE\] mac/mac-service\.cpp)"), "");
 }

@@ -5,6 +5,8 @@
 #include <chrono>
 #include <filesystem>
 #include <regex>
+#include <thread>
+#include "fs-platform-linux.h"
 #include "log.h"
 #include "mac/mac-service.h"
 #include "test-support.h"
@@ -22,7 +24,6 @@ protected:
         ASSERT_EQ(mkfifo((tmp / "fifo").c_str(), 0600), 0);  // the client script waits on it
         Logger::Initialize(Logger::TYPE_FILE, tmp / "log", tmp / "levels", 50);
     }
-    static bool wait_for(const std::function<bool()>& ok, int n = 500) { return ok() || (n && (usleep(10000), wait_for(ok, n - 1))); }
     static pid_t spawn(const char* program, const char* arg = nullptr) {
         const pid_t pid = fork();
         return pid == 0 ? (execlp(program, program, arg, nullptr), _exit(127), 0) : pid;
@@ -32,8 +33,9 @@ protected:
         return write_file(tmp / "log", ""), std::regex_replace(text, std::regex(R"(\S+ \d\d \d\d:\d\d:\d\d (.*?)\(\d+\))"), "$1(N)");
     }
     // The client script, once running with `on_term` as its SIGTERM trap and named in the pid file; else 0.
-    pid_t start(const std::string& on_term) {
-        write_file(bin, "#!/bin/bash\ntrap '" + on_term + "' TERM\necho \"pid=$$\" > \"$HOME/.Lumora/ui.pid\"\nread -t 30 x <> \"$HOME/fifo\"\n");
+    // It ends by itself after `secs` seconds.
+    pid_t start(const std::string& on_term, const std::string& secs = "30") {
+        write_file(bin, "#!/bin/bash\ntrap '" + on_term + "' TERM\necho \"pid=$$\" > \"$HOME/.Lumora/ui.pid\"\nread -t " + secs + " x <> \"$HOME/fifo\"\n");
         const pid_t pid = (chmod(bin.c_str(), 0755), spawn(bin.c_str()));
         return wait_for([&] { return exists(pid_file) && read_file(pid_file) == "pid=" + std::to_string(pid) + "\n"; }) ? pid : 0;
     }
@@ -83,6 +85,23 @@ TEST_F(MacServiceTest, StopEndsOnlyTheClientByTermOrAfterFiveSecondsByKill) {
         EXPECT_EQ(log(), line) << content;
     }
     EXPECT_EQ(kill(std::stoi(other), SIGKILL), 0);  // it was still running
+}
+
+// A client that outlives SIGTERM and exits some 2.5 s later, its pid taken by another program before the SIGKILL
+// moment: the stop ends at the next probe and that program lives on. With pidfds and without.
+TEST_F(MacServiceTest, StopNeverSignalsTheProgramThatTookTheClientsPid) {
+    if (geteuid() != 0) GTEST_SKIP() << "taking a given pid needs root";
+    for (bool pidfd : {true, false}) {
+        FSPidfdEnable(pidfd);
+        const pid_t ui = start("", "2.5");
+        pid_t taker = 0;
+        std::thread take([&] { wait_for([&] { return kill(ui, 0) != 0; }), taker = at_pid(ui, [] { return spawn("sleep", "30"); }); });
+        EXPECT_LT(stop(), 4.5) << pidfd;
+        take.join();
+        EXPECT_TRUE(taker == ui && kill(taker, SIGKILL) == 0) << pidfd;  // it was still running
+        EXPECT_EQ(log(), "");
+    }
+    FSPidfdEnable(true);
 }
 
 TEST_F(MacServiceTest, PostUpgradeStartsTheClientDetachedWithoutArgumentsHereOrLogsItsAbsence) {

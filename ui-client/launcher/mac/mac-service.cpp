@@ -39,19 +39,20 @@ long process_id(const ustring& value) {
     return pid;
 }
 
-// SIGTERM, up to five probes a second apart, then SIGKILL.
-void terminate(long pid) {
-    if (kill(static_cast<pid_t>(pid), SIGTERM) != 0) {
+// SIGTERM, up to five probes a second apart, then SIGKILL: all to the process held, never to a
+// later owner of its pid.
+void terminate(FSProcess& ui) {
+    if (ui.signal(SIGTERM) != 0) {
         if (errno == ESRCH) return;
         const int err = errno;
         Logger::LogMsg(Logger::LEVEL_ERROR, component(), "[ERROR] mac/mac-service.cpp(%d): kill: %s (%d)\n", __LINE__,
                        strerror(err), err);
     }
     for (int probe = 0; probe < kTerminateProbes; ++probe) {
-        if (kill(static_cast<pid_t>(pid), 0) != 0 && errno == ESRCH) return;
+        if (ui.ended()) return;
         sleep(1);
     }
-    kill(static_cast<pid_t>(pid), SIGKILL);
+    ui.signal(SIGKILL);
 }
 
 }  // namespace
@@ -120,12 +121,13 @@ void MacService::StopService() {
         return;
     }
     // A pid file left behind by a client that died may name a process that now runs something else.
-    if (FSProcessRunsProgram(pid, per_user_bin(app_path).c_str()) == 0) {
+    FSProcess ui(pid);
+    if (ui.approve(per_user_bin(app_path).c_str()) == 0) {
         Logger::LogMsg(Logger::LEVEL_NOTE, component(),
                        "[NOTE] mac/mac-service.cpp(%d): process %ld is not the Lumora UI, not terminating it\n", __LINE__, pid);
         return;
     }
-    terminate(pid);
+    terminate(ui);
 }
 
 void MacService::PostUpgrade() {
