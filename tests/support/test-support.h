@@ -15,6 +15,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
+#include <functional>
 #include <iterator>
 #include <map>
 #include <sstream>
@@ -116,6 +117,9 @@ inline void make_tree(const std::string& root, const Tree& tree) {
         else write_file(root + rel, content);
     }
 }
+
+// Whether `ok` holds, asked every 10 ms, at most n more times (5 s by default).
+inline bool wait_for(const std::function<bool()>& ok, int n = 500) { return ok() || (n && (usleep(10000), wait_for(ok, n - 1))); }
 
 }  // namespace testsupport
 

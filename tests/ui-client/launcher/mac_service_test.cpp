@@ -22,7 +22,6 @@ protected:
         ASSERT_EQ(mkfifo((tmp / "fifo").c_str(), 0600), 0);  // the client script waits on it
         Logger::Initialize(Logger::TYPE_FILE, tmp / "log", tmp / "levels", 50);
     }
-    static bool wait_for(const std::function<bool()>& ok, int n = 500) { return ok() || (n && (usleep(10000), wait_for(ok, n - 1))); }
     static pid_t spawn(const char* program, const char* arg = nullptr) {
         const pid_t pid = fork();
         return pid == 0 ? (execlp(program, program, arg, nullptr), _exit(127), 0) : pid;
