@@ -9,7 +9,9 @@ struct archive;
 
 class Extractor {
 public:
-    // Number of entries, or -1.
+    // Number of entries, or -1. The entries are read on a thread of their own; when that reader
+    // neither reads a new header nor gets further into the file for 30 s (libarchive loops for ever
+    // on some damaged archives), Count() gives up with -1 and leaves the thread to the process exit.
     int Count();
     // Writes every entry's path to standard output; 0 or -1.
     int List();
@@ -22,5 +24,8 @@ public:
     ustring dest_path;
     ustring archive_path;
 };
+
+// Tests only: the stall limit of Count() in seconds instead of 30.
+void SetCountStallLimitForTests(int seconds);
 
 #endif

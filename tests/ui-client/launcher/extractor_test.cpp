@@ -3,9 +3,14 @@
 #include <archive.h>
 #include <archive_entry.h>
 #include <gtest/gtest.h>
+#include <chrono>
+#include <filesystem>
+#include <numeric>
 #include <regex>
+#include <thread>
 
 #include "log.h"
+#include "looping-iso.h"
 #include "notify-adapter.h"
 #include "strtable.h"
 #include "test-support.h"
@@ -24,6 +29,19 @@ void make_archive(const std::string& file, const std::vector<Entry>& entries) { 
         archive_write_header(a, en), archive_write_data(a, e.data.data(), e.data.size()), archive_entry_free(en);
     }
     archive_write_free(a);
+}
+
+static double seconds_since(std::chrono::steady_clock::time_point t0) { return std::chrono::duration<double>(std::chrono::steady_clock::now() - t0).count(); }
+
+static std::string gz(const std::string& data) {  // one gzip member
+    std::string out(data.size() / 500 + 1024, '\0');
+    size_t used = 0;
+    archive* a = archive_write_new();
+    archive_entry* e = archive_entry_new();
+    archive_entry_set_pathname(e, "d"), archive_entry_set_mode(e, AE_IFREG | 0644), archive_entry_set_size(e, data.size());
+    archive_write_set_format_raw(a), archive_write_add_filter_gzip(a), archive_write_open_memory(a, &out[0], out.size(), &used);
+    archive_write_header(a, e), archive_write_data(a, data.data(), data.size()), archive_write_free(a), archive_entry_free(e);
+    return out.substr(0, used);
 }
 
 struct ExtractorTest : ::testing::Test, QObject {  // on the extracting thread: reports come as direct calls
@@ -63,15 +81,17 @@ TEST_F(ExtractorTest, EveryFormatExtractsTheSameTree) {
     umask(old_mask);
 }
 
-// A broken archive fails at the broken entry, keeping the entries before it; one without entries, or none, yields nothing.
+// A broken archive fails at the broken entry, keeping the entries before it; one without entries, none or a folder yields nothing.
 TEST_F(ExtractorTest, BrokenEmptyOrMissingArchivesFail) {
-    const std::string no_file = kErr + "archive_read_open_filename failed: 'Failed to open '/pkg.tar''\n";
+    const std::string no_file = kErr + "archive_read_open_filename failed: 'Failed to open '/pkg.tar''\n",
+                      no_read = kErr + "archive_read_open_filename failed: 'Error reading '/pkg.tar''\n";
     const struct { const char* name; void (*damage)(const std::string&); int count; std::string log; const char* middle = "b"; } cases[] = {
         {"garbage", [](auto& p) { std::string d = read_file(p); write_file(p, d.replace(d.find("c.txt"), 512, 512, 'Z')); }, 2,
          kErr + "archive_read_next_header failed: 'Damaged tar archive'\n"},
         {"dotdot", [](auto&) {}, 3, kErr + "archive_read_extract2 failed: 'Path contains '..''\n", "../x"},
         {"empty", [](auto& p) { write_file(p, std::string(10240, '\0')); }, 0, kErr + "Failed to calculate total file numbers, ret: 0\n"},
-        {"missing", [](auto& p) { unlink(p.c_str()); }, -1, no_file + no_file + kErr + "Failed to calculate total file numbers, ret: -1\n"}};
+        {"missing", [](auto& p) { unlink(p.c_str()); }, -1, no_file + no_file + kErr + "Failed to calculate total file numbers, ret: -1\n"},
+        {"folder", [](auto& p) { unlink(p.c_str()), make_dir(p); }, -1, no_read + no_read + kErr + "Failed to calculate total file numbers, ret: -1\n"}};
     for (const auto& c : cases) {
         ex.dest_path = dir / c.name;
         make_archive(dir / "pkg.tar", {{"a", AE_IFREG | 0644, "1"}, {c.middle, AE_IFREG | 0644, "2"}, {"c.txt", AE_IFREG | 0644, "3"}});
@@ -92,4 +112,63 @@ TEST_F(ExtractorTest, EmptyFieldsAreRefused) {
         EXPECT_EQ(log() + reports.toStdString(), refused + refused_too + refused_too + refused + refused);
     }
     archive_read_free(reader);
+}
+
+// Readers that get nowhere: libarchive looping on a self-referencing ISO 9660 continuation entry, a
+// FIFO with no writer (stuck in open), one whose writer is silent (stuck in the format detection).
+// The count is given up after the stall limit; the readers, set free later, end without a word.
+TEST_F(ExtractorTest, StuckReadersAreGivenUp) {
+    SetCountStallLimitForTests(1);
+    make_looping_iso(dir / "loop.iso");
+    ASSERT_EQ(mkfifo((dir / "unopened").c_str(), 0600) | mkfifo((dir / "silent").c_str(), 0600), 0);
+    const int silent = open((dir / "silent").c_str(), O_RDWR);
+    const auto threads = [] { return std::distance(std::filesystem::directory_iterator("/proc/self/task"), {}); };
+    const auto before = threads();
+    for (const std::string name : {"loop.iso", "unopened", "silent"}) {
+        ex.archive_path = dir / name;
+        const auto t0 = std::chrono::steady_clock::now();
+        EXPECT_EQ(ex.Extract(), -1) << name;
+        EXPECT_TRUE(seconds_since(t0) > 1 && seconds_since(t0) < 5) << name << " " << seconds_since(t0);
+        EXPECT_EQ(log() + std::exchange(reports, "").toStdString(), kErr + "no progress reading '/" + name + "' for 1 s, giving up\n" +
+                  kErr + "Failed to calculate total file numbers, ret: -1\nLumora is initializing...;") << name;
+    }
+    const int unopened = open((dir / "unopened").c_str(), O_WRONLY | O_NONBLOCK);
+    EXPECT_EQ(write(unopened, "junk", 4) + write(silent, "junk", 4), 8);  // an archive no format reads
+    close(unopened), close(silent);
+    EXPECT_TRUE(wait_for([&] { return threads() == before + 1; }));  // the looping one goes on
+    EXPECT_EQ(log(), "");
+}
+
+// Readers that are slow but get on are waited for: a FIFO fed an entry every half second, and a
+// single entry whose skipping (decompression) outlasts the limit.
+TEST_F(ExtractorTest, SlowButProgressingReadersAreWaitedFor) {
+    SetCountStallLimitForTests(2);
+    make_archive(dir / "pkg.tar", std::vector<Entry>(7, {"e", AE_IFREG | 0644, ""}));
+    ASSERT_EQ(mkfifo((dir / "fifo").c_str(), 0600), 0);
+    std::thread feed([tar = read_file(dir / "pkg.tar"), fifo = dir / "fifo"] {
+        std::ofstream out(fifo, std::ios::binary);
+        for (size_t at = 0; at < tar.size(); at += 512) out.write(&tar[at], 512).flush(), usleep(at < 7 * 512 ? 500000 : 0);
+    });
+    ex.archive_path = dir / "fifo";
+    auto t0 = std::chrono::steady_clock::now();
+    EXPECT_EQ(ex.Count(), 7);
+    EXPECT_GT(seconds_since(t0), 3);
+    feed.join();
+    // A tar.gz of one entry of n MiB of zeros, the header's size and checksum patched, then a gzip
+    // member of 1 MiB of zeros for each MiB and one for the end: sized to take some 3 s to skip here.
+    SetCountStallLimitForTests(1);
+    ex.archive_path = dir / "big.tar.gz";
+    std::string header = read_file(dir / "pkg.tar").substr(0, 512), mib = gz(std::string(1 << 20, '\0'));
+    const auto count = [&](long long n) {
+        char field[12];
+        snprintf(field, 12, "%011llo", n << 20), header.replace(124, 12, field, 12).replace(148, 8, 8, ' ');
+        snprintf(field, 8, "%06o", std::accumulate(header.begin(), header.end(), 0, [](int sum, char c) { return sum + uint8_t(c); }) & 0777777);
+        std::string z = gz(header.replace(148, 7, field, 7));
+        for (int i = 0; i <= n; ++i) z += mib;
+        return write_file(dir / "big.tar.gz", z), t0 = std::chrono::steady_clock::now(), ex.Count();
+    };
+    EXPECT_EQ(count(64), 1);
+    EXPECT_EQ(count(std::clamp(int(3 * 64 / seconds_since(t0)), 64, 4095)), 1);
+    EXPECT_GT(seconds_since(t0), 1.5);  // else the machine is too fast for this case to mean anything
+    EXPECT_EQ(log(), "");
 }

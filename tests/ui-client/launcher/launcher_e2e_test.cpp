@@ -11,6 +11,7 @@
 #include <filesystem>
 #include <regex>
 #include <thread>
+#include "looping-iso.h"
 #include "test-support.h"
 
 using namespace testsupport;
@@ -113,9 +114,9 @@ protected:
         ASSERT_EQ(QProcess::execute(MAKE_PACKAGE, {q(tmp / "client"), q(bundle + "/Contents/Resources/package")}), 0);
         fs::rename(bundle + "/Contents/Resources/package/INFO", bundle + "/Contents/Resources/INFO");
     }
-    int finish(QProcess& p) {  // the exit code, -1 for a crash or a hang; its output in `out`, its run time in `secs`
+    int finish(QProcess& p, int ms = 20000) {  // the exit code, -1 for a crash or a hang; its output in `out`, its run time in `secs`
         const auto t0 = std::chrono::steady_clock::now();
-        const bool done = p.waitForFinished(20000);
+        const bool done = p.waitForFinished(ms);
         secs = std::chrono::duration<double>(std::chrono::steady_clock::now() - t0).count(), out = p.readAllStandardOutput().toStdString();
         return done && p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1;
     }
@@ -292,4 +293,23 @@ TEST_F(LauncherE2E, UpgradeNeverSignalsTheProgramThatTookTheClientsPid) {
     EXPECT_EQ(waitpid(taker, nullptr, WNOHANG), 0) << "the program that took the client's pid was signalled";
     EXPECT_EQ(snapshot(app), package());
     EXPECT_EQ(log_of(R"(\[ERROR\] [\w/.-]+|\[NOTE\] mac/mac-service\.cpp)"), "");
+}
+
+// A package on which libarchive loops for ever: after 30 s without progress the launcher gives up,
+// rolls back, starts the old client and exits, the looping reader still running.
+TEST_F(LauncherE2E, LoopingPackageIsGivenUpAfterThirtySeconds) {
+    set_home("home");
+    install(99);
+    make_looping_iso(pkg);
+    const Tree old = snapshot(app);
+    EXPECT_EQ(finish(*start(), 60000), 0);
+    EXPECT_TRUE(secs > 30 && secs < 45) << secs;
+    EXPECT_EQ(snapshot(app), old);
+    EXPECT_FALSE(exists(app + "_tmp"));
+    EXPECT_GT(client(), 0);
+    EXPECT_EQ(log_of(R"(\[ERROR\] [\w-]+\.cpp|\[\w+\] launcher\.cpp)"), "[DEBUG] launcher.cpp(N): running\n"
+        "[ERROR] extractor.cpp(N): no progress reading '" + pkg + "' for 30 s, giving up\n"
+        "[ERROR] extractor.cpp(N): Failed to calculate total file numbers, ret: -1\n"
+        "[ERROR] lumora-service.cpp(N): Failed to extract package, rollback to old installation\n"
+        "[ERROR] launcher.cpp(N): Failed to upgrade packge\n[DEBUG] launcher.cpp(N): done\n");
 }
