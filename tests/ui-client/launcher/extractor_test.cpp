@@ -25,8 +25,10 @@ void make_archive(const std::string& file, const std::vector<Entry>& entries) { 
     ASSERT_EQ(archive_write_set_format_filter_by_ext(a, file.c_str()) | archive_write_open_filename(a, file.c_str()), ARCHIVE_OK);
     for (const Entry& e : entries) {
         archive_entry* en = archive_entry_new();
-        archive_entry_set_pathname(en, e.path.c_str()), archive_entry_set_mode(en, e.mode), archive_entry_set_size(en, e.data.size());
-        archive_write_header(a, en), archive_write_data(a, e.data.data(), e.data.size()), archive_entry_free(en);
+        const bool link = (e.mode & AE_IFMT) == AE_IFLNK;  // its data is its target
+        archive_entry_set_pathname(en, e.path.c_str()), archive_entry_set_mode(en, e.mode), archive_entry_set_size(en, link ? 0 : e.data.size());
+        if (link) archive_entry_set_symlink(en, e.data.c_str());
+        archive_write_header(a, en), archive_write_data(a, e.data.data(), link ? 0 : e.data.size()), archive_entry_free(en);
     }
     archive_write_free(a);
 }
@@ -101,6 +103,29 @@ TEST_F(ExtractorTest, BrokenEmptyOrMissingArchivesFail) {
         EXPECT_EQ(exists(dir / c.name + "/a") ? read_file(dir / c.name + "/a") : "", c.count > 0 ? "1" : "") << c.name;
         EXPECT_FALSE(exists(dir / c.name + "/c.txt") || exists(dir / "x")) << c.name;
     }
+}
+
+// A file in the way is replaced, a relative link stays a link; List names every entry; copy_data copies one.
+TEST_F(ExtractorTest, ReplacesWhatIsInTheWayKeepsLinksListsAndCopies) {
+    make_tree(dir.path(), {{"/out", "/"}, {"/out/a", "the old and longer content"}});
+    make_archive(dir / "pkg.tar", {{"a", AE_IFREG | 0644, "new"}, {"bin", AE_IFDIR | 0755, ""}, {"bin/l", AE_IFLNK | 0777, "../a"}});
+    EXPECT_EQ(ex.Extract(), 0);
+    EXPECT_EQ(read_file(dir / "out/a"), "new");
+    EXPECT_EQ(std::filesystem::read_symlink(dir / "out/bin/l"), "../a");
+    testing::internal::CaptureStdout();
+    EXPECT_EQ(ex.List(), 0);
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "a\nbin/\nbin/l\n");
+    archive* in = archive_read_new();
+    archive* out = archive_write_disk_new();
+    archive_entry* entry;
+    archive_read_support_format_all(in);
+    ASSERT_EQ(archive_read_open_filename(in, (dir / "pkg.tar").c_str(), 10240) | archive_read_next_header(in, &entry), ARCHIVE_OK);
+    archive_entry_set_pathname(entry, (dir / "copied").c_str());
+    ASSERT_EQ(archive_write_header(out, entry), ARCHIVE_OK);
+    EXPECT_EQ(ex.copy_data(in, out), 0);
+    archive_read_free(in), archive_write_free(out);
+    EXPECT_EQ(read_file(dir / "copied"), "new");
+    EXPECT_EQ(log(), "");
 }
 
 // An empty field is refused before anything is read or reported; copy_data needs both ends.

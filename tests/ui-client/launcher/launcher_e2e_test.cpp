@@ -63,7 +63,7 @@ static Tree snapshot(const std::string& root, Tree tree = {}) {  // relative pat
     return tree;
 }
 
-enum Twist { kPlain, kNoBinary, kCorrupt, kRunning, kRelative, kLockedFolders }; enum Outcome { kInstalled, kKept, kRolledBack };
+enum Twist { kPlain, kNoBinary, kCorrupt, kRunning, kRelative, kLockedFolders, kNoLogFolder, kUnreadableInfo }; enum Outcome { kInstalled, kKept, kRolledBack };
 // installed: the app folder's build, 0 for none; bundle: the build the bundle's INFO names, 0 as built (100).
 // home: the home folder's name as stored; asked: as HOME spells it, when otherwise.
 struct Case { const char* name; int installed, bundle; Twist twist; Outcome outcome; const char* home = "home", *asked = nullptr; };
@@ -164,8 +164,10 @@ TEST_P(LauncherE2E, LeavesTheInstallAndStartsTheClient) {
         ASSERT_EQ(QProcess::execute("bsdtar", {"-czf", q(pkg), "-n", "-C", q(tmp / "client"), ".", "a", "a/f", "z", "INFO"}), 0);
         fs::resize_file(pkg, fs::file_size(pkg) / 2);
     }
+    if (c.twist == kNoLogFolder) fs::create_directories(user), write_file(user + "/log", "in the way");
     const Tree old = exists(app) ? snapshot(app) : Tree();
     give_to_user(tmp.path());
+    if (c.twist == kUnreadableInfo) chmod((bundle + "/Contents/Resources/INFO").c_str(), 0);
     std::unique_ptr<Child> old_client(c.twist == kRunning ? new Child(bin) : nullptr);  // it exits 0 on SIGTERM
     ASSERT_TRUE(!old_client || pid_file_names(old_client->pid));
     const QStringList env = QProcess::systemEnvironment();
@@ -180,7 +182,9 @@ TEST_P(LauncherE2E, LeavesTheInstallAndStartsTheClient) {
     EXPECT_GT(client(old_client ? old_client->pid : 0), 0);
     const std::string l = "[DEBUG] launcher.cpp(N): ", between[] = {"", l + "no need to upgrade\n",
         "[ERROR] lumora-service.cpp(N): Failed to extract package, rollback to old installation\n[ERROR] launcher.cpp(N): Failed to upgrade packge\n"};
-    EXPECT_EQ(log_of(R"(\[\w+\] launcher\.cpp|\[ERROR\] lumora-service\.cpp)"), l + "running\n" + between[c.outcome] + l + "done\n");
+    EXPECT_EQ(log_of(R"(\[\w+\] launcher\.cpp|\[ERROR\] lumora-service\.cpp)"), c.twist == kNoLogFolder ? "" : l + "running\n" + between[c.outcome] + l + "done\n");
+    if (c.twist == kNoLogFolder) EXPECT_EQ(read_file(user + "/log"), "in the way");
+    if (c.twist == kUnreadableInfo) EXPECT_EQ(log_of(R"(\[INFO\] lumora-service\.cpp(?=\(\d+\): target))"), "[INFO] lumora-service.cpp(N): target_version = (, , , )\n");
 }
 
 INSTANTIATE_TEST_SUITE_P(Cases, LauncherE2E, ::testing::Values(
@@ -191,7 +195,8 @@ INSTANTIATE_TEST_SUITE_P(Cases, LauncherE2E, ::testing::Values(
     Case{"NfdHomeFirstInstall", 0, 0, kPlain, kInstalled, kNfdHome}, Case{"NfdHomeCurrentInstall", 100, 0, kPlain, kKept, kNfdHome},
     Case{"NfdHomeUpgradeStopsRunningClient", 99, 0, kRunning, kInstalled, kNfdHome},
     Case{"NfdHomeAskedForInNfc", 99, 0, kRunning, kInstalled, kNfdHome, "Jos\xC3\xA9 M\xC3\xBCller"},
-    Case{"LockedFoldersOfADamagedPackageRollBack", 99, 0, kLockedFolders, kRolledBack}),
+    Case{"LockedFoldersOfADamagedPackageRollBack", 99, 0, kLockedFolders, kRolledBack},
+    Case{"NoLogFolderLogsNothingAndGoesOn", 0, 0, kNoLogFolder, kInstalled}, Case{"UnreadableBundleInfoIsBuildZero", 100, 0, kUnreadableInfo, kKept}),
     [](const ::testing::TestParamInfo<Case>& i) { return std::string(i.param.name); });
 
 // An old client that ignores SIGTERM holds the first launcher in its stop for some five seconds. Where the

@@ -1,7 +1,10 @@
 // MacService with real processes: the upgrade decision, stopping the client and starting it.
 #include <gtest/gtest.h>
 #include <signal.h>
+#include <ftw.h>
+#include <linux/capability.h>
 #include <sys/prctl.h>
+#include <sys/syscall.h>
 #include <chrono>
 #include <filesystem>
 #include <regex>
@@ -24,8 +27,9 @@ protected:
         ASSERT_EQ(mkfifo((tmp / "fifo").c_str(), 0600), 0);  // the client script waits on it
         Logger::Initialize(Logger::TYPE_FILE, tmp / "log", tmp / "levels", 50);
     }
-    static pid_t spawn(const char* program, const char* arg = nullptr) {
+    static pid_t spawn(const char* program, const char* arg = nullptr, uid_t user = 0) {
         const pid_t pid = fork();
+        if (pid == 0 && user && (setgid(user) != 0 || setuid(user) != 0)) _exit(126);
         return pid == 0 ? (execlp(program, program, arg, nullptr), _exit(127), 0) : pid;
     }
     std::string log() {  // since the last call, without the time, line numbers shown as N
@@ -34,9 +38,9 @@ protected:
     }
     // The client script, once running with `on_term` as its SIGTERM trap and named in the pid file; else 0.
     // It ends by itself after `secs` seconds.
-    pid_t start(const std::string& on_term, const std::string& secs = "30") {
+    pid_t start(const std::string& on_term, const std::string& secs = "30", uid_t user = 0) {
         write_file(bin, "#!/bin/bash\ntrap '" + on_term + "' TERM\necho \"pid=$$\" > \"$HOME/.Lumora/ui.pid\"\nread -t " + secs + " x <> \"$HOME/fifo\"\n");
-        const pid_t pid = (chmod(bin.c_str(), 0755), spawn(bin.c_str()));
+        const pid_t pid = (chmod(bin.c_str(), 0755), spawn(bin.c_str(), nullptr, user));
         return wait_for([&] { return exists(pid_file) && read_file(pid_file) == "pid=" + std::to_string(pid) + "\n"; }) ? pid : 0;
     }
     double stop() {  // seconds taken
@@ -85,6 +89,26 @@ TEST_F(MacServiceTest, StopEndsOnlyTheClientByTermOrAfterFiveSecondsByKill) {
         EXPECT_EQ(log(), line) << content;
     }
     EXPECT_EQ(kill(std::stoi(other), SIGKILL), 0);  // it was still running
+}
+
+// SIGTERM refused with another errno than ESRCH (EPERM: a client of another user, and no right to signal it
+// after all) is logged; the five probes and the SIGKILL follow all the same.
+TEST_F(MacServiceTest, ARefusedSigtermIsLoggedAndTheProbesAndSigkillStillFollow) {
+    if (geteuid() != 0) GTEST_SKIP() << "root gives the client to another user, then gives up its right to signal it";
+    nftw(tmp.path().c_str(), [](const char* p, const struct stat*, int, FTW*) { return lchown(p, 65534, 65534); }, 16, FTW_PHYS);
+    const pid_t ui = start("", "30", 65534);
+    const auto t0 = std::chrono::steady_clock::now();
+    const pid_t stopper = fork();  // still root and still able to read the client's identity, but not to signal it
+    if (stopper == 0) {
+        __user_cap_header_struct header = {_LINUX_CAPABILITY_VERSION_3, 0};
+        __user_cap_data_struct caps[2] = {};
+        syscall(SYS_capget, &header, caps), caps[0].effective &= ~(1u << CAP_KILL);
+        _exit(syscall(SYS_capset, &header, caps) == 0 ? (MacService().StopService(), 0) : 1);
+    }
+    ASSERT_TRUE(wait_for([&] { return kill(stopper, 0) != 0; }, 1200));
+    EXPECT_NEAR(std::chrono::duration<double>(std::chrono::steady_clock::now() - t0).count(), 5.75, 1.25);
+    EXPECT_EQ(log(), "[ERROR] mac/mac-service.cpp(N): kill: Operation not permitted (1)\n");
+    EXPECT_EQ(kill(ui, SIGKILL), 0) << "SIGKILL was refused too";
 }
 
 // A client that outlives SIGTERM and exits some 2.5 s later, its pid taken by another program before the SIGKILL

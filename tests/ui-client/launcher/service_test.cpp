@@ -93,6 +93,22 @@ TEST(Service, PrepareUserEnvBacksUpUnderFirstFreeNameThenCleansUpOrRollsBack) {
     }
 }
 
+// A rollback whose rename fails says where the old installation is kept; a bundle without INFO is build 0.
+TEST(Service, AFailedRollbackNamesTheBackupAndAMissingBundleInfoReadsEmpty) {
+    Sandbox sb;
+    make_tree(sb.home, under("/.Lumora", under("/app", kOld)));
+    Scripted svc;
+    svc.extract = [&] { return make_tree(sb.lum, under("/app", kOther)), set_immutable(sb.app + "_tmp", true) ? -1 : -2; };
+    const int rc = svc.PrepareUserEnv();
+    set_immutable(sb.app + "_tmp", false);
+    if (rc == -2) GTEST_SKIP() << "no immutable flag here";
+    EXPECT_EQ(rc, -1);
+    EXPECT_EQ(snapshot(sb.app + "_tmp"), kOld);
+    svc.LoadTargetVersion();  // this test program's "bundle" has no Contents/Resources/INFO
+    EXPECT_EQ(sb.log(), E + "Failed to extract package, rollback to old installation\n" + E + "rollback incomplete (0), old installation kept at '" +
+              sb.app + "_tmp'\n" + I + "target_version = (, , , )\n");
+}
+
 TEST(Service, CopyPathCopiesFilesAndTreesAndRefusesAMissingSource) {
     Sandbox sb;
     make_tree(sb.tmp.path(), {{"/one", "single"}, {"/src", "/"}, {"/src/g", "g"}, {"/src/sub", "/"}, {"/src/sub/f", "f"}});
