@@ -16,10 +16,12 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <functional>
 #include <iterator>
 #include <map>
+#include <set>
 #include <sstream>
 #include <stdexcept>
 #include <string>
@@ -127,6 +129,21 @@ inline bool wait_for(const std::function<bool()>& ok, int n = 500) {
         usleep(10000);
     }
     return true;
+}
+
+// The names under root, relative to it.
+inline std::set<std::string> names(const std::string& root) {
+    std::set<std::string> found;
+    for (const auto& e : std::filesystem::recursive_directory_iterator(root)) found.insert(e.path().lexically_relative(root));
+    return found;
+}
+
+// A client script writes "$$\n" to `marker`: once it has, its process (adopted by us as subreaper) is reaped.
+// Its pid, or 0 when no pid came within 10 s.
+inline pid_t reap_marked(const std::string& marker) {
+    if (!wait_for([&] { return exists(marker) && read_file(marker).back() == '\n'; }, 1000)) return 0;
+    const pid_t pid = std::stoi(read_file(marker));
+    return waitpid(pid, nullptr, 0) == pid ? pid : 0;
 }
 
 // Sets the last process id the kernel gave out: the next fork gets the one after, if free.

@@ -1,10 +1,6 @@
 // The launcher's parts: dialog, wiring, a whole run and the slots; the single-instance guard; the packager.
 #include <gtest/gtest.h>
 #include <sys/prctl.h>
-#include <sys/wait.h>
-
-#include <filesystem>
-#include <set>
 
 #include <QLocalServer>
 #include <QLocalSocket>
@@ -92,8 +88,7 @@ TEST(Launcher, CurrentInstallStartsTheClientThenSlotsDriveTheDialog) {
     EXPECT_EQ(QApplication::exec(), 0);
     qputenv("HOME", home);
     EXPECT_EQ(d->windowHandle(), nullptr);  // never shown: no window was ever made
-    ASSERT_TRUE(QTest::qWaitFor([&] { return exists(tmp / "ran") && read_file(tmp / "ran").back() == '\n'; }, 10000));
-    waitpid(std::stoi(read_file(tmp / "ran")), nullptr, 0);
+    ASSERT_GT(reap_marked(tmp / "ran"), 0);
 
     // (100, 100) first: with auto-reset on, reaching the maximum would reset the bar.
     for (const auto& p : {std::array<int, 3>{100, 100, 100}, {7, 3, 42}, {400, 0, 0}, {3, 2, 66}, {3, 1, 33}}) {
@@ -229,11 +224,6 @@ TEST(Packager, RefusesUnsafeFoldersAndWritesInfoLast) {
              for (int i = 0; i < 100000; ++i) lots += "build_version=v7\n";
              write_file(d + "/INFO", lots);
          }},
-    };
-    const auto names = [](const std::string& root) {
-        std::set<std::string> found;
-        for (const auto& e : std::filesystem::recursive_directory_iterator(root)) found.insert(e.path().string().substr(root.size()));
-        return found;
     };
     for (const auto& [format, expect, twist] : cases) {
         TempDir tmp;
