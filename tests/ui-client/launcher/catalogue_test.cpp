@@ -3,7 +3,6 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
-#include <QDir>
 #include <QFile>
 #include <QResource>
 #include <QTranslator>
@@ -12,7 +11,6 @@
 #include "strtable.h"
 
 int qInitResources_texts();
-int qCleanupResources_texts();
 
 // Per catalogue: the launcher's texts 304 and 340, then the texts it may leave as in English.
 const std::map<QString, QString> kCatalogues = {
@@ -44,7 +42,8 @@ TEST(Catalogues, EachHoldsEveryTextTranslatedWithItsTokensKept) {
         SCOPED_TRACE(code.toStdString());
         const QStringList launcher_then_same = texts.split('|');
         QTranslator translator;
-        ASSERT_TRUE(translator.load(QStringLiteral(":/") + code) && !translator.isEmpty());
+        ASSERT_TRUE(translator.load(QStringLiteral(":/") + code));
+        ASSERT_FALSE(translator.isEmpty());
         ASSERT_TRUE(QCoreApplication::installTranslator(&translator));
         for (int id = 0; id < StrTable::kStrCount; ++id) {
             const QString &source = sources[id], text = StrTable::LoadStr(id), shown = ": " + text;
@@ -72,24 +71,11 @@ TEST(Catalogues, EachHoldsOnlyHashesAndMessagesAndIsCompressedOnlyWhenWorthIt) {
         qint64 at = 16;
         for (uchar tag; at + 5 <= plain.size(); at += 5 + sections[tag])
             sections[tag = uchar(plain[int(at)])] = qFromBigEndian<quint32>(plain.constData() + at + 1);
-        EXPECT_EQ(at, plain.size());
-        EXPECT_EQ(sections.size(), 2u);
-        EXPECT_EQ(sections.count(0x69), 1u);
-        EXPECT_EQ(sections[0x42], 312 * 8);
         const QResource resource(QStringLiteral(":/") + code + ".qm");
-        EXPECT_FALSE(resource.lastModified().isValid());
         const bool worth_it = int(100.0 * (plain.size() - qCompress(plain).size()) / plain.size()) >= 70;
-        EXPECT_EQ(resource.compressionAlgorithm(), worth_it ? QResource::ZlibCompression : QResource::NoCompression);
-        EXPECT_EQ(resource.uncompressedData(), plain);
+        EXPECT_EQ(std::make_tuple(at, sections.size(), sections.count(0x69), sections[0x42], resource.lastModified().isValid(),
+                                  resource.compressionAlgorithm(), resource.uncompressedData() == plain),
+                  std::make_tuple(plain.size(), size_t(2), size_t(1), qint64(312 * 8), false,
+                                  worth_it ? QResource::ZlibCompression : QResource::NoCompression, true));
     }
-}
-
-TEST(Catalogues, CollectionHoldsExactlyTheTwentyCatalogues) {
-    QStringList added = QDir(QStringLiteral(":/")).entryList(QDir::AllEntries);  // sorted by name
-    qCleanupResources_texts();
-    for (const QString& other : QDir(QStringLiteral(":/")).entryList(QDir::AllEntries)) added.removeAll(other);
-    qInitResources_texts();
-    QStringList expected;
-    for (const auto& [code, texts] : kCatalogues) expected << code + ".qm";
-    EXPECT_EQ(added, expected);
 }

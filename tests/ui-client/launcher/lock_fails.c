@@ -6,32 +6,27 @@
 #include <fcntl.h>
 #include <stdarg.h>
 
-static int forward(const char* name, int fd, int cmd, void* arg) {
-    int (*real)(int, int, ...) = (int (*)(int, int, ...))dlsym(RTLD_NEXT, name);
-    return real(fd, cmd, arg);
-}
-
-static int fail_locks(const char* name, int fd, int cmd, va_list args) {
-    void* arg = va_arg(args, void*);
+// fcntl's third argument, where there is one, is an int or a pointer: passed on as a pointer-sized value.
+static int fail_locks(const char* name, int fd, int cmd, void* arg) {
     if (cmd == F_SETLK || cmd == F_SETLKW || cmd == F_OFD_SETLK || cmd == F_OFD_SETLKW) {
         errno = ENOLCK;
         return -1;
     }
-    return forward(name, fd, cmd, arg);
+    return ((int (*)(int, int, ...))dlsym(RTLD_NEXT, name))(fd, cmd, arg);
 }
 
 int fcntl(int fd, int cmd, ...) {
     va_list args;
     va_start(args, cmd);
-    const int rc = fail_locks("fcntl", fd, cmd, args);
+    void* arg = va_arg(args, void*);
     va_end(args);
-    return rc;
+    return fail_locks("fcntl", fd, cmd, arg);
 }
 
 int fcntl64(int fd, int cmd, ...) {
     va_list args;
     va_start(args, cmd);
-    const int rc = fail_locks("fcntl64", fd, cmd, args);
+    void* arg = va_arg(args, void*);
     va_end(args);
-    return rc;
+    return fail_locks("fcntl64", fd, cmd, arg);
 }
