@@ -74,7 +74,8 @@ TEST_F(FileOpTest, EntriesAreDescribedAndListedWithoutFollowingLinksAndFoundByTh
         for (DIR_ENTRY e; n < 20 && FSReadDir(h, e) == 1; ++n) {
             const bool filled = flags && e.name != ustring("dangling");  // FSStat follows links
             ASSERT_EQ(GetFileInfo(tmp / e.name.c_str(), i), 0) << e.name;
-            EXPECT_EQ(make_tuple(e.type, e.size, e.mtime), make_tuple(i.type, filled ? i.size : 0, filled ? i.mtime : 0)) << e.name;
+            EXPECT_EQ(make_tuple(e.type, e.size, e.mtime), make_tuple(i.type, filled ? i.size : 0, filled ? i.mtime : 0))
+                << e.name;
         }
         FSCloseDir(h);
         EXPECT_EQ(n, 11);
@@ -174,11 +175,13 @@ TEST_F(FileOpTest, TreesAreWalkedRemovedAndMovedEvenAcrossFileSystemsOrLeftInPla
 TEST_F(FileOpTest, FSRemoveRemovesAnOwnTreeWhateverItsModes) {
     make_tree(tmp.path(), {{"/t", "/"}, {"/t/none", "/"}, {"/t/none/f", "x"}, {"/t/read", "/"}, {"/t/read/in", "/"},
                            {"/t/read/in/g", "y"}, {"/t/write", "/"}, {"/t/write/h", "z"}});
-    for (const auto& [rel, mode] : std::map<S, mode_t>{{"t/none", 0}, {"t/read", 0500}, {"t/read/in", 0}, {"t/write", 0300}, {"t", 0555}})
+    for (const auto& [rel, mode] :
+         std::map<S, mode_t>{{"t/none", 0}, {"t/read", 0500}, {"t/read/in", 0}, {"t/write", 0300}, {"t", 0555}})
         chmod(p(rel).c_str(), mode);
     const pid_t pid = fork();  // as nobody when we are root, as ourselves otherwise
     if (pid == 0) {
-        if (geteuid() == 0) nftw(tmp.path().c_str(), [](const char* f, const struct stat*, int, FTW*) { return lchown(f, 65534, 65534); }, 16, FTW_PHYS);
+        const auto give = [](const char* f, const struct stat*, int, FTW*) { return lchown(f, 65534, 65534); };
+        if (geteuid() == 0) nftw(tmp.path().c_str(), give, 16, FTW_PHYS);
         _exit((geteuid() != 0 || setuid(65534) == 0) && FSRemove(p("t")) == 0 ? 0 : 1);
     }
     int status = -1;
@@ -213,7 +216,8 @@ TEST_F(FileOpTest, FSMKDirMakesWhatIsMissingAndFSMKDirPStopsBehindTheFailingComp
     EXPECT_EQ(FSMKDirP(last, &at, true, 0xFFFF), 0);
     EXPECT_TRUE(is_dir(p("file")));
     umask(077);  // an explicit mode is used exactly, and the umask restored; the default one is under it
-    const std::vector<int> rcs{FSMKDirP(p("m/in"), nullptr, false, 0751), int(umask(077)), FSMKDirP(p("d/in"), nullptr, false, 0xFFFF)};
+    const std::vector<int> rcs{FSMKDirP(p("m/in"), nullptr, false, 0751), int(umask(077)),
+                               FSMKDirP(p("d/in"), nullptr, false, 0xFFFF)};
     EXPECT_EQ(rcs, (std::vector<int>{0, 077, 0}));
     EXPECT_EQ((std::vector<mode_t>{perms(p("m")), perms(p("m/in")), perms(p("d/in"))}), (std::vector<mode_t>{0751, 0751, 0700}));
 }

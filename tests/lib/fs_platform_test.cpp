@@ -54,12 +54,14 @@ TEST(FsPlatformTest, ResolvesToTheStoredForm) {
 // Only the Unicode form may differ from what is stored; the letter case may not.
 TEST(FsPlatformTest, FindsTheStoredFormOfAnotherUnicodeSpellingOnly) {
     testsupport::TempDir tmp;
-    testsupport::make_tree(tmp.path(), {{"/d" + kEd, "/"}, {"/d" + kEd + "/n" + kE, "x"}, {"/Dir", "/"}, {"/Dangling", "->nowhere"}});
+    testsupport::make_tree(tmp.path(),
+                           {{"/d" + kEd, "/"}, {"/d" + kEd + "/n" + kE, "x"}, {"/Dir", "/"}, {"/Dangling", "->nowhere"}});
     const std::pair<std::string, std::string> cases[] = {{"d" + kE + "/n" + kEd, "d" + kEd + "/n" + kE}, {"Dir", "Dir"},
         {"Dangling", "Dangling"}, {"dir", "-"}, {"D" + kEd, "-"}, {"d" + kE + "/missing", "-"}, {"", "-"}};
     for (const auto& [ask, stored] : cases) {
         std::string found;
-        EXPECT_EQ(FSFindStoredForm((ask.empty() ? ask : tmp / ask).c_str(), found) == 0 ? found : "-", stored.empty() || stored == "-" ? stored : tmp / stored) << ask;
+        const std::string want = stored.empty() || stored == "-" ? stored : tmp / stored;
+        EXPECT_EQ(FSFindStoredForm((ask.empty() ? ask : tmp / ask).c_str(), found) == 0 ? found : "-", want) << ask;
     }
 }
 
@@ -96,7 +98,8 @@ protected:
     void SetUp() override {
         FSPidfdEnable(GetParam());
         std::filesystem::copy_file("/bin/cat", ui);  // the clients: a program, a script for sh, one for bash through env
-        testsupport::make_tree(tmp.path(), {{"/sh-ui", "#!/bin/sh\nread x\n"}, {"/env-ui", "#!/usr/bin/env bash\nread x\n"}, {"/link", "->ui"}});
+        testsupport::make_tree(tmp.path(),
+                               {{"/sh-ui", "#!/bin/sh\nread x\n"}, {"/env-ui", "#!/usr/bin/env bash\nread x\n"}, {"/link", "->ui"}});
         for (const std::string& f : {ui, sh, env}) chmod(f.c_str(), 0755);
     }
     void TearDown() override {
