@@ -33,7 +33,8 @@ TEST(Config, ReadsLinesAndEmptiesTheMapOnAMalformedOne) {
         EXPECT_EQ(cfg.entries, expected) << text.substr(0, 40);
     }
     Config cfg{{{"kept", "yes"}}};  // an unusable path changes nothing
-    EXPECT_TRUE(cfg.read("") == -1 && cfg.read(dir / "missing") == -1 && cfg.entries == (Entries{{"kept", "yes"}}));
+    EXPECT_EQ(std::make_pair(cfg.read(""), cfg.read(dir / "missing")), std::make_pair(-1, -1));
+    EXPECT_EQ(cfg.entries, (Entries{{"kept", "yes"}}));
 }
 
 TEST(Config, GetIntReadsLikeAStreamAndSaturates) {
@@ -44,7 +45,8 @@ TEST(Config, GetIntReadsLikeAStreamAndSaturates) {
         cfg.entries["key"] = text;
         EXPECT_EQ(cfg.get_int("key"), value) << "value \"" << text << "\"";
     }
-    EXPECT_TRUE(cfg.get_int("absent") == 0 && cfg.entries.at("absent").empty());  // inserted empty
+    EXPECT_EQ(cfg.get_int("absent"), 0);
+    EXPECT_EQ(cfg.entries.at("absent"), "");  // inserted empty
 }
 
 }  // namespace

@@ -19,6 +19,7 @@
 #endif
 
 namespace {
+using std::make_pair;
 
 const std::string kE = "\xC3\xA9", kEd = "e\xCC\x81", kEU = "\xC3\x89", kEUd = "E\xCC\x81";  // é and É, NFC and NFD
 const std::string kAlphaNFC = "\xE1\xBE\xB4", kAlphaOdd = "\xCE\xB1\xCD\x85\xCC\x81";  // U+1FB4; its marks reordered
@@ -53,18 +54,21 @@ TEST(FsPlatformTest, ResolvesToTheStoredForm) {
 // Only the Unicode form may differ from what is stored; the letter case may not.
 TEST(FsPlatformTest, FindsTheStoredFormOfAnotherUnicodeSpellingOnly) {
     testsupport::TempDir tmp;
-    testsupport::make_tree(tmp.path(), {{"/d" + kEd, "/"}, {"/d" + kEd + "/n" + kE, "x"}, {"/Dir", "/"}, {"/Dangling", "->nowhere"}});
+    testsupport::make_tree(tmp.path(),
+                           {{"/d" + kEd, "/"}, {"/d" + kEd + "/n" + kE, "x"}, {"/Dir", "/"}, {"/Dangling", "->nowhere"}});
     const std::pair<std::string, std::string> cases[] = {{"d" + kE + "/n" + kEd, "d" + kEd + "/n" + kE}, {"Dir", "Dir"},
         {"Dangling", "Dangling"}, {"dir", "-"}, {"D" + kEd, "-"}, {"d" + kE + "/missing", "-"}, {"", "-"}};
     for (const auto& [ask, stored] : cases) {
         std::string found;
-        EXPECT_EQ(FSFindStoredForm((ask.empty() ? ask : tmp / ask).c_str(), found) == 0 ? found : "-", stored.empty() || stored == "-" ? stored : tmp / stored) << ask;
+        const std::string want = stored.empty() || stored == "-" ? stored : tmp / stored;
+        EXPECT_EQ(FSFindStoredForm((ask.empty() ? ask : tmp / ask).c_str(), found) == 0 ? found : "-", want) << ask;
     }
 }
 
 // Names become UTF-8 for the C library; the other categories keep what the environment gave them.
 TEST(FsPlatformTest, Utf8NamesChangeOnlyTheCharacterType) {
-    ASSERT_TRUE(setlocale(LC_ALL, "C") && setlocale(LC_TIME, "C.UTF-8"));
+    ASSERT_TRUE(setlocale(LC_ALL, "C"));
+    ASSERT_TRUE(setlocale(LC_TIME, "C.UTF-8"));
     EXPECT_EQ(FSUseUtf8Names(), 0);
     EXPECT_STREQ(nl_langinfo(CODESET), "UTF-8");
     EXPECT_STREQ(setlocale(LC_TIME, nullptr), "C.UTF-8");
@@ -79,10 +83,12 @@ TEST(FsPlatformTest, FileSystemTypeNames) {
              {SMB_SUPER_MAGIC, "smbfs"}, {CIFS_SUPER_MAGIC, "smbfs"}, {SMB2_SUPER_MAGIC, "smbfs"},
              {MSDOS_SUPER_MAGIC, "msdos"}, {EXT4_SUPER_MAGIC, "ext4"}, {0x12345678ul, "unknown"}})
         EXPECT_STREQ(FSFileSystemTypeNameOfMagic(magic), type) << magic;
-    EXPECT_TRUE(FSFileSystemTypeName("/dev/shm", name) == 0 && name == "tmpfs") << name;
+    EXPECT_EQ(FSFileSystemTypeName("/dev/shm", name), 0);
+    EXPECT_EQ(name, "tmpfs");
 #endif
     errno = 0;
-    EXPECT_TRUE(FSFileSystemTypeName("/nonexistent/x", name) == -1 && errno == ENOENT);
+    EXPECT_EQ(FSFileSystemTypeName("/nonexistent/x", name), -1);
+    EXPECT_EQ(errno, ENOENT);
 }
 
 #if defined(__linux__)
@@ -92,7 +98,8 @@ protected:
     void SetUp() override {
         FSPidfdEnable(GetParam());
         std::filesystem::copy_file("/bin/cat", ui);  // the clients: a program, a script for sh, one for bash through env
-        testsupport::make_tree(tmp.path(), {{"/sh-ui", "#!/bin/sh\nread x\n"}, {"/env-ui", "#!/usr/bin/env bash\nread x\n"}, {"/link", "->ui"}});
+        testsupport::make_tree(tmp.path(),
+                               {{"/sh-ui", "#!/bin/sh\nread x\n"}, {"/env-ui", "#!/usr/bin/env bash\nread x\n"}, {"/link", "->ui"}});
         for (const std::string& f : {ui, sh, env}) chmod(f.c_str(), 0755);
     }
     void TearDown() override {
@@ -144,21 +151,26 @@ TEST_P(FsProcessTest, AHandleNeverReachesALaterOwnerOfItsPid) {
     if (geteuid() != 0) GTEST_SKIP() << "taking a given pid needs root";
     const pid_t first = run({ui});
     FSProcess held(first), quiet(first);  // quiet: not asked again until its pid has changed hands
-    ASSERT_TRUE(held.approve(ui.c_str()) == 1 && quiet.approve(ui.c_str()) == 1);
-    EXPECT_TRUE(!held.ended() && held.signal(0) == 0);
+    ASSERT_EQ(make_pair(held.approve(ui.c_str()), quiet.approve(ui.c_str())), make_pair(1, 1));
+    EXPECT_FALSE(held.ended());
+    EXPECT_EQ(held.signal(0), 0);
     end(first);
     EXPECT_TRUE(testsupport::wait_for([&] { return held.ended(); }));  // a zombie
-    EXPECT_TRUE(held.signal(SIGTERM) == -1 && errno == ESRCH);
+    EXPECT_EQ(held.signal(SIGTERM), -1);
+    EXPECT_EQ(errno, ESRCH);
     ASSERT_EQ(waitpid(first, nullptr, 0), first);
     usleep(20000);  // a later start time (in 10 ms ticks), which is all that tells the fallback two clients apart
     ASSERT_EQ(testsupport::at_pid(first, [&] { return run({ui}); }), first);
-    EXPECT_TRUE(quiet.signal(SIGKILL) == -1 && errno == ESRCH && quiet.ended() && held.ended());
+    EXPECT_EQ(quiet.signal(SIGKILL), -1);
+    EXPECT_EQ(errno, ESRCH);
+    EXPECT_EQ(make_pair(quiet.ended(), held.ended()), make_pair(true, true));
     EXPECT_EQ(FSProcess(first).approve(ui.c_str()), 1);  // the second client, alive
     FSProcess stale(first);
     end(first), waitpid(first, nullptr, 0), usleep(20000);
     ASSERT_EQ(testsupport::at_pid(first, [&] { return run({ui}); }), first);
     EXPECT_EQ(stale.approve(ui.c_str()), -1);
-    EXPECT_TRUE(stale.ended() && stale.signal(SIGKILL) == -1);
+    EXPECT_TRUE(stale.ended());
+    EXPECT_EQ(stale.signal(SIGKILL), -1);
     EXPECT_EQ(waitpid(first, nullptr, WNOHANG), 0);  // the third, untouched
 }
 

@@ -51,7 +51,7 @@ TEST_F(LoggerTest, ThresholdsComeFromTheLevelFileElseFourAndFilesGetClosed) {
     init_file(50);
     const int fd2 = fileno(L::log_fp);
     EXPECT_EQ(captured([] { L::Destroy(); put("after\n"); }), "|after\n");
-    EXPECT_TRUE(fcntl(fd, F_GETFD) == -1 && fcntl(fd2, F_GETFD) == -1) << "log file left open";
+    EXPECT_EQ(std::make_pair(fcntl(fd, F_GETFD), fcntl(fd2, F_GETFD)), std::make_pair(-1, -1)) << "log file left open";
 }
 
 TEST_F(LoggerTest, RotatesAfterTheMessageThatPassesOneMiBKeepingOneFileFewerThanTheCount) {
@@ -61,7 +61,8 @@ TEST_F(LoggerTest, RotatesAfterTheMessageThatPassesOneMiBKeepingOneFileFewerThan
     for (const char* m : {"B\n", "after\n"}) put(m);
     EXPECT_EQ(logged(0) + "/" + logged(), "|" + sized("first", kRotateAt - 1) + "|B\n/|after\n");
     for (const char* tag : {"0 ", "1 ", "2 "}) put(sized(tag));
-    EXPECT_TRUE(logged().empty() && !exists(path + "_2"));
+    EXPECT_EQ(logged(), "");
+    EXPECT_FALSE(exists(path + "_2"));
     EXPECT_EQ(logged(1) + logged(0), "|" + sized("1 ") + "|" + sized("2 ")) << "P_0 is the newest";
     init_file(1);  // nothing moves P_0 away: a non-empty folder there is neither removed nor replaced,
     remove(p0.c_str());  // so P is gone after the next rotation and later messages are dropped

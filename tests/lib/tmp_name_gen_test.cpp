@@ -1,4 +1,4 @@
-// TmpNameGen: RC4 keystreams, the keys, the name encoding and thread safety.
+// TmpNameGen: RC4 keystreams, the keys, known names and thread safety.
 #include "tmp_name_gen.h"
 
 #include <cstring>
@@ -12,7 +12,6 @@
 
 namespace {
 
-const std::string kAlphabet = "0123456789abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ-_";
 TmpNameGen& gen = *TmpNameGen::getInstance();
 std::string Bytes(const unsigned char* p, size_t n) { return std::string(reinterpret_cast<const char*>(p), n); }
 
@@ -32,17 +31,16 @@ TEST(TmpNameGenTest, Rc4KeystreamsAndKeys) {
     gen.rc4_init(want_sbox, want);
     EXPECT_EQ(Bytes(key, 256) + Bytes(sbox, 256), Bytes(want, 256) + Bytes(want_sbox, 256));
     const std::string text(reinterpret_cast<const char*>(gen.key));  // the singleton's key: the time of day
-    EXPECT_TRUE(std::regex_match(text, std::regex("\\d+-\\d{1,6}")) && time(nullptr) - std::stol(text) < 600) << text;
+    ASSERT_TRUE(std::regex_match(text, std::regex("\\d+-\\d{1,6}"))) << text;
+    EXPECT_LT(time(nullptr) - std::stol(text), 600);
 }
 
 TEST(TmpNameGenTest, NamesEncodeSixFreshBytesAndStayDistinctAcrossThreads) {
-    unsigned char sbox[256], b[6 * 400 + 1] = {};
-    memcpy(sbox, gen.sbox, 256);
-    std::string names, want;  // the names' bytes, drawn from a copy of the permutation, read 6 bits at a time
-    for (int i = 0; i < 400; ++i) names += gen.getTmpName().c_str(), gen.rc4_randomize(sbox, b + 6 * i, 6);
-    for (int i = 0; i < 6 * 400 * 8; i += 6) want += kAlphabet[(b[i / 8] << 8 | b[i / 8 + 1]) >> (10 - i % 8) & 63];
-    EXPECT_EQ(names, want);
-    EXPECT_TRUE(std::regex_match(gen.getTmpPath("/tmp").c_str(), std::regex("/tmp/[0-9a-zA-Z_-]{8}")));
+    unsigned char key[256] = "Key";  // zero padded: six bytes a name, six bits a character, most significant first
+    gen.rc4_init(gen.sbox, key);
+    std::string names;
+    for (int i = 0; i < 2; ++i) names += gen.getTmpName().c_str() + std::string(" ");
+    EXPECT_EQ(names + gen.getTmpPath("/tmp").c_str(), "HW1iIvI0 K9YyJglm /tmp/Lf5smJWo");
     std::vector<std::string> all(8 * 20000);
     std::vector<std::thread> pool;
     for (size_t t = 0; t < 8; ++t)
@@ -50,6 +48,7 @@ TEST(TmpNameGenTest, NamesEncodeSixFreshBytesAndStayDistinctAcrossThreads) {
     for (auto& thread : pool) thread.join();
     EXPECT_EQ(std::set<std::string>(all.begin(), all.end()).size(), all.size());
     EXPECT_EQ(std::set<unsigned char>(gen.sbox, gen.sbox + 256).size(), 256u) << "the permutation was corrupted";
+    EXPECT_TRUE(std::regex_match(all.back(), std::regex("[0-9a-zA-Z_-]{8}"))) << all.back();
 }
 
 }  // namespace

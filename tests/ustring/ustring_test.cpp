@@ -25,7 +25,9 @@ std::string Text(const ustring& s) { return std::string(s.c_str(), s.length()); 
 void Ten(ustring& s) { s = "0123456789"; s.c_str_utf16(); }  // ten characters, view built: capacities 11
 void ExpectText(const ustring& s, const std::string& text) {  // and both buffers terminated inside their capacities
     EXPECT_EQ(Text(s), text);
-    EXPECT_TRUE(s.data_len < s.data_cap && s.wdata_len < s.wdata_cap && !s.data[s.data_len] && !s.wdata[s.wdata_len]);
+    EXPECT_LT(s.data_len, s.data_cap);
+    EXPECT_LT(s.wdata_len, s.wdata_cap);
+    EXPECT_EQ(std::make_pair(s.data[s.data_len], int(s.wdata[s.wdata_len])), std::make_pair('\0', 0));
 }
 
 // Each edit runs on "ab" with the view not built and built: the text must survive UTF-16 appends onto an

@@ -2,10 +2,7 @@
 
 #include "quenlocale.h"
 
-int qInitResources_texts();
-
 int main() {
-    qInitResources_texts();
+    Q_INIT_RESOURCE(texts);
     std::printf("%s\n", qPrintable(QuenLocale::getDefaultLanguage()));
-    return 0;
 }

@@ -14,10 +14,10 @@ static QString chooseFor(const QString& name) { return QuenLocale::getLanguageFo
 TEST(QuenLocale, ChoosesByWholeNameThenLanguagePart) {
     qInitResources_texts();
     for (const QString& c : QStringLiteral("zh_TW=cht zh_HK=cht zh_MO=cht ZH_tw=cht zh_CN=chs zh_SG=chs zh=chs zh_tw_x=chs "
-                                           "pt_PT=ptg pt=ptg pt_BR=ptb pt_AO=ptb nb_NO=nor nn_NO=nor no=nor en_GB=enu es_MX=esn "
-                                           "fr_CA=fra ja_JP=jpn de_AT=deu ko_KR=krn it_CH=ita ru_RU=rus da_DK=dan sv_FI=sve "
-                                           "nl_BE=nld pl_PL=plk hu_HU=hun tr_TR=trk cs_CZ=csy ar_SA=enu C=enu =enu tw=enu").split(' '))
-        EXPECT_EQ(chooseFor(c.section('=', 0, 0)), c.section('=', 1)) << c.toStdString();
+                                 "pt_PT=ptg pt=ptg pt_BR=ptb pt_AO=ptb nb_NO=nor nn_NO=nor no=nor en_GB=enu es_MX=esn fr_CA=fra "
+                                 "ja_JP=jpn de_AT=deu ko_KR=krn it_CH=ita ru_RU=rus da_DK=dan sv_FI=sve nl_BE=nld "
+                                 "pl_PL=plk hu_HU=hun tr_TR=trk cs_CZ=csy ar_SA=enu C=enu =enu tw=enu").split(' '))
+        EXPECT_EQ(chooseFor(c.section('=', 0, 0)), c.section('=', 1)) << qPrintable(c);
 }
 
 TEST(QuenLocale, TracesLocaleTwiceThenCatalogueThenChoice) {
@@ -37,7 +37,8 @@ TEST(QuenLocale, MissingCatalogueFallsBackToEnglish) {
     qCleanupResources_texts();  // registering twice has no effect, so this removes the collection
     ASSERT_FALSE(QuenLocale::isLanguageInstalled(QStringLiteral("enu")));
     ASSERT_TRUE(QResource::registerResource(QStringLiteral(PARTIAL_RCC_PATH)));
-    EXPECT_EQ(chooseFor(QStringLiteral("hu_HU")) + chooseFor(QStringLiteral("de_DE")), QLatin1String("enudeu"));
+    EXPECT_EQ(chooseFor(QStringLiteral("hu_HU")), QLatin1String("enu"));
+    EXPECT_EQ(chooseFor(QStringLiteral("de_DE")), QLatin1String("deu"));
     QResource::unregisterResource(QStringLiteral(PARTIAL_RCC_PATH));
     qInitResources_texts();
     EXPECT_EQ(chooseFor(QStringLiteral("hu_HU")), QLatin1String("hun"));
@@ -45,8 +46,10 @@ TEST(QuenLocale, MissingCatalogueFallsBackToEnglish) {
 
 TEST(QuenLocale, CatalogueLookupAndTables) {
     qInitResources_texts();
-    EXPECT_FALSE(QuenLocale::isLanguageInstalled(QString()) || QuenLocale::isLanguageInstalled(QStringLiteral("ENU")));
-    const QStringList codes = QStringLiteral("enu cht chs jpn deu krn fra ita esn ptb rus dan nor sve nld plk hun ptg trk csy").split(' ');
+    EXPECT_FALSE(QuenLocale::isLanguageInstalled(QString()));
+    EXPECT_FALSE(QuenLocale::isLanguageInstalled(QStringLiteral("ENU")));
+    const QStringList codes = QStringLiteral("enu cht chs jpn deu krn fra ita esn ptb rus dan nor sve nld plk hun ptg trk csy")
+                                  .split(' ');
     EXPECT_EQ(QStringList(QuenLocale::getSupportedLanguages()), codes);
     for (int id = 0; id < 20; ++id) EXPECT_EQ(QuenLocale::getLanguageAbbrByID(id), codes[id]);
     for (int id : {20, 21, -1, -20}) EXPECT_TRUE(QuenLocale::getLanguageAbbrByID(id).isEmpty()) << id;
@@ -54,17 +57,14 @@ TEST(QuenLocale, CatalogueLookupAndTables) {
 }
 
 // The system locale comes from the environment once per process, so each case is a child.
-TEST(QuenLocale, SystemLocaleSelectsEveryLanguage) {
-    for (const QString& c : QStringLiteral("en_US=enu zh_TW=cht zh_CN=chs ja_JP=jpn de_DE=deu ko_KR=krn fr_FR=fra it_IT=ita "
-                                           "es_ES=esn pt_BR=ptb ru_RU=rus da_DK=dan nb_NO=nor sv_SE=sve nl_NL=nld pl_PL=plk "
-                                           "hu_HU=hun pt_PT=ptg tr_TR=trk cs_CZ=csy ar_SA=enu C=enu").split(' ')) {
-        SCOPED_TRACE(c.toStdString());
+TEST(QuenLocale, SystemLocaleSelectsTheLanguage) {
+    for (const QString& c : QStringLiteral("zh_TW=cht pt_PT=ptg de_DE=deu C=enu").split(' ')) {
         QProcess probe;
         probe.setEnvironment(QProcess::systemEnvironment().filter(QRegularExpression("^(?!LC_ALL=|LC_MESSAGES=|LANG=)"))
                              << QStringLiteral("LANG=") + c.section('=', 0, 0) + QStringLiteral(".UTF-8"));
         probe.start(QStringLiteral(PROBE_PATH), QStringList());
-        ASSERT_TRUE(probe.waitForFinished(10000));
-        EXPECT_EQ(probe.exitCode(), 0);
+        ASSERT_TRUE(probe.waitForFinished(10000)) << qPrintable(c);
+        EXPECT_EQ(probe.exitCode(), 0) << qPrintable(c);
         EXPECT_EQ(QString::fromLatin1(probe.readAllStandardOutput()).trimmed(), c.section('=', 1));
     }
 }
