@@ -1,10 +1,11 @@
-// Helpers shared by the tests: a temporary folder removed with everything in it, and small
-// file helpers that fail the test loudly instead of returning codes.
+// Helpers shared by the tests: a temporary folder removed with everything in it, small file helpers
+// that fail the test loudly instead of returning codes, trees, logs and child processes.
 #ifndef TESTS_TEST_SUPPORT_H
 #define TESTS_TEST_SUPPORT_H
 
 #include <fcntl.h>
 #include <ftw.h>
+#include <grp.h>
 #include <signal.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -14,15 +15,14 @@
 #include <sys/ioctl.h>
 #endif
 
-#include <cstdio>
+#include <chrono>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <functional>
-#include <iterator>
 #include <map>
+#include <regex>
 #include <set>
-#include <sstream>
 #include <stdexcept>
 #include <string>
 
@@ -40,9 +40,7 @@ inline bool set_immutable(const std::string& path, bool on) {
     if (fd >= 0) close(fd);
     return done;
 #else
-    (void)path;
-    (void)on;
-    return false;
+    return (void)path, (void)on, false;
 #endif
 }
 
@@ -59,7 +57,8 @@ public:
     ~TempDir() {
         // Restore permissions and flags a test may have taken away, then remove the tree.
         nftw(path_.c_str(), restore, 16, FTW_PHYS);
-        nftw(path_.c_str(), remove_one, 16, FTW_DEPTH | FTW_PHYS);
+        nftw(path_.c_str(), [](const char* p, const struct stat*, int, struct FTW*) { return ::remove(p), 0; }, 16,
+             FTW_DEPTH | FTW_PHYS);
     }
     TempDir(const TempDir&) = delete;
     TempDir& operator=(const TempDir&) = delete;
@@ -72,10 +71,6 @@ private:
         if (S_ISREG(st->st_mode) || S_ISDIR(st->st_mode)) set_immutable(p, false);
         if (type == FTW_D || type == FTW_DNR) chmod(p, 0700);
         else if (type == FTW_F && !S_ISLNK(st->st_mode)) chmod(p, 0600);
-        return 0;
-    }
-    static int remove_one(const char* p, const struct stat*, int, struct FTW*) {
-        ::remove(p);
         return 0;
     }
     std::string path_;
@@ -122,6 +117,37 @@ inline void make_tree(const std::string& root, const Tree& tree) {
     }
 }
 
+// The tree under root as make_tree takes it; with `modes`, " mode <decimal>" after each file's and folder's.
+inline Tree snapshot(const std::string& root, bool modes = false) {
+    namespace fs = std::filesystem;
+    Tree tree;
+    for (const auto& e : fs::recursive_directory_iterator(root)) {
+        std::string& entry = tree["/" + e.path().lexically_relative(root).string()];
+        if (e.is_symlink()) entry = "->" + fs::read_symlink(e.path()).string();
+        else entry = (e.is_directory() ? "/" : read_file(e.path())) + (modes ? " mode " + std::to_string(int(e.status().permissions())) : "");
+    }
+    return tree;
+}
+
+// The names under root, relative to it.
+inline std::set<std::string> names(const std::string& root) {
+    std::set<std::string> found;
+    for (const auto& e : std::filesystem::recursive_directory_iterator(root)) found.insert(e.path().lexically_relative(root));
+    return found;
+}
+
+// A log's lines without their times, source line numbers as N; with `only`, just those whose "[LEVEL] file" matches it.
+inline std::string log_lines(const std::string& path, const std::string& only = "") {
+    std::ifstream in(path);
+    const std::regex time(R"(^\S+ \d\d \d\d:\d\d:\d\d )"), number(R"(\(\d+\))"), kept("(?:" + only + R"()\(N\).*)");
+    std::string found;
+    for (std::string l; std::getline(in, l);) {
+        l = std::regex_replace(std::regex_replace(l, time, ""), number, "(N)", std::regex_constants::format_first_only);
+        if (only.empty() || std::regex_match(l, kept)) found += l + "\n";
+    }
+    return found;
+}
+
 // Polls ok every 10 ms, n times at most; whether it came true.
 inline bool wait_for(const std::function<bool()>& ok, int n = 500) {
     for (; !ok(); --n) {
@@ -131,11 +157,34 @@ inline bool wait_for(const std::function<bool()>& ok, int n = 500) {
     return true;
 }
 
-// The names under root, relative to it.
-inline std::set<std::string> names(const std::string& root) {
-    std::set<std::string> found;
-    for (const auto& e : std::filesystem::recursive_directory_iterator(root)) found.insert(e.path().lexically_relative(root));
-    return found;
+// Whether the file comes to hold exactly `content` within 5 s.
+inline bool comes_to_hold(const std::string& path, const std::string& content) {
+    return wait_for([&] { return exists(path) && read_file(path) == content; });
+}
+
+inline double seconds_since(std::chrono::steady_clock::time_point t0) {
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - t0).count();
+}
+
+// Runs program with one argument or none, as `user` unless 0 (which needs root); its pid.
+inline pid_t spawn(const char* program, const char* arg = nullptr, uid_t user = 0) {
+    const pid_t pid = fork();
+    if (pid == 0 && user && (setgroups(0, nullptr) != 0 || setgid(user) != 0 || setuid(user) != 0)) _exit(126);
+    return pid == 0 ? (execlp(program, program, arg, nullptr), _exit(127), 0) : pid;
+}
+
+// Gives every entry under root to `user`.
+inline void give_to(const std::string& root, uid_t user) {
+    static uid_t to;
+    to = user;
+    nftw(root.c_str(), [](const char* p, const struct stat*, int, struct FTW*) { return lchown(p, to, to), 0; }, 16, FTW_PHYS);
+}
+
+// A client script that writes "pid=$$" to $HOME/.Lumora/ui.pid, runs `on_term` on SIGTERM and ends when a
+// line comes down `fifo` or after `secs` seconds.
+inline void write_client(const std::string& bin, const std::string& on_term, const std::string& secs, const std::string& fifo) {
+    write_file(bin, "#!/bin/bash\ntrap '" + on_term + "' TERM\necho \"pid=$$\" > \"$HOME/.Lumora/ui.pid\"\nread -t " + secs + " _ <> '" + fifo + "'\n");
+    chmod(bin.c_str(), 0755);
 }
 
 // A client script writes "$$\n" to `marker`: once it has, its process (adopted by us as subreaper) is reaped.

@@ -3,10 +3,7 @@
 #include <archive.h>
 #include <archive_entry.h>
 #include <gtest/gtest.h>
-#include <chrono>
-#include <filesystem>
 #include <numeric>
-#include <regex>
 #include <thread>
 
 #include "log.h"
@@ -17,7 +14,7 @@
 
 using namespace testsupport;
 using Results = std::vector<int>;
-const std::string kErr = "[ERROR] extractor.cpp(%d): ";  // %d: any source line
+const std::string kErr = "[ERROR] extractor.cpp(N): ";
 struct Entry { std::string path; int mode; std::string data; };
 
 void make_archive(const std::string& file, const std::vector<Entry>& entries) {  // format and filter by the name's extension
@@ -32,8 +29,6 @@ void make_archive(const std::string& file, const std::vector<Entry>& entries) { 
     }
     archive_write_free(a);
 }
-
-static double seconds_since(std::chrono::steady_clock::time_point t0) { return std::chrono::duration<double>(std::chrono::steady_clock::now() - t0).count(); }
 
 static std::string gz(const std::string& data) {  // one gzip member
     std::string out(data.size() / 500 + 1024, '\0');
@@ -54,10 +49,9 @@ struct ExtractorTest : ::testing::Test, QObject {  // on the extracting thread: 
         connect(relay, &Notify_Adapter::sigUpdateDialogText, this, [this](QString text) { reports += text + ";"; });
         connect(relay, &Notify_Adapter::sigUpdateProgress, this, [this](int total, int i) { reports += QString("%1,%2;").arg(total).arg(i); });
     }
-    std::string log() {  // what was logged since the last call, without times and dir, with %d for source lines
-        const std::string text = std::regex_replace(read_file(dir / "x.log"), std::regex(R"([^\n]*?\d\d:\d\d:\d\d |)" + dir.path()), "");
-        write_file(dir / "x.log", "");
-        return std::regex_replace(text, std::regex(R"(\(\d+\))"), "(%d)");
+    std::string log() {  // what was logged since the last call, without dir
+        const std::string text = std::regex_replace(log_lines(dir / "x.log"), std::regex(dir.path()), "");
+        return write_file(dir / "x.log", ""), text;
     }
     TempDir dir;
     Extractor ex{dir / "out", dir / "pkg.tar"};
@@ -101,7 +95,8 @@ TEST_F(ExtractorTest, BrokenEmptyOrMissingArchivesFail) {
         EXPECT_EQ((Results{ex.Count(), ex.Extract()}), (Results{c.count, -1})) << c.name;
         EXPECT_EQ(log(), c.log) << c.name;
         EXPECT_EQ(exists(dir / c.name + "/a") ? read_file(dir / c.name + "/a") : "", c.count > 0 ? "1" : "") << c.name;
-        EXPECT_FALSE(exists(dir / c.name + "/c.txt") || exists(dir / "x")) << c.name;
+        EXPECT_FALSE(exists(dir / c.name + "/c.txt")) << c.name;
+        EXPECT_FALSE(exists(dir / "x")) << c.name;
     }
 }
 
@@ -145,7 +140,8 @@ TEST_F(ExtractorTest, EmptyFieldsAreRefused) {
 TEST_F(ExtractorTest, StuckReadersAreGivenUp) {
     SetCountStallLimitForTests(1);
     make_looping_iso(dir / "loop.iso");
-    ASSERT_EQ(mkfifo((dir / "unopened").c_str(), 0600) | mkfifo((dir / "silent").c_str(), 0600), 0);
+    ASSERT_EQ(mkfifo((dir / "unopened").c_str(), 0600), 0);
+    ASSERT_EQ(mkfifo((dir / "silent").c_str(), 0600), 0);
     const int silent = open((dir / "silent").c_str(), O_RDWR);
     const auto threads = [] { return std::distance(std::filesystem::directory_iterator("/proc/self/task"), {}); };
     const auto before = threads();
@@ -153,7 +149,8 @@ TEST_F(ExtractorTest, StuckReadersAreGivenUp) {
         ex.archive_path = dir / name;
         const auto t0 = std::chrono::steady_clock::now();
         EXPECT_EQ(ex.Extract(), -1) << name;
-        EXPECT_TRUE(seconds_since(t0) > 1 && seconds_since(t0) < 5) << name << " " << seconds_since(t0);
+        EXPECT_GT(seconds_since(t0), 1) << name;
+        EXPECT_LT(seconds_since(t0), 5) << name;
         EXPECT_EQ(log() + std::exchange(reports, "").toStdString(), kErr + "no progress reading '/" + name + "' for 1 s, giving up\n" +
                   kErr + "Failed to calculate total file numbers, ret: -1\nLumora is initializing...;") << name;
     }

@@ -1,13 +1,8 @@
 // MacService with real processes: the upgrade decision, stopping the client and starting it.
 #include <gtest/gtest.h>
-#include <signal.h>
-#include <ftw.h>
 #include <linux/capability.h>
 #include <sys/prctl.h>
 #include <sys/syscall.h>
-#include <chrono>
-#include <filesystem>
-#include <regex>
 #include <thread>
 #include "fs-platform-linux.h"
 #include "log.h"
@@ -21,31 +16,26 @@ protected:
     void SetUp() override {
         struct sigaction reap = {};  // children, as subreaper the clients started detached too, vanish as they end,
         reap.sa_flags = SA_NOCLDWAIT;  // so kill(pid, 0) sees them gone; their own children start with no such flag
-        ASSERT_TRUE(sigaction(SIGCHLD, &reap, nullptr) == 0 && prctl(PR_SET_CHILD_SUBREAPER, 1) == 0);
+        ASSERT_EQ(sigaction(SIGCHLD, &reap, nullptr), 0);
+        ASSERT_EQ(prctl(PR_SET_CHILD_SUBREAPER, 1), 0);
         setenv("HOME", tmp.path().c_str(), 1);
         make_tree(tmp.path(), {{"/.Lumora", "/"}, {"/.Lumora/app", "/"}, {"/.Lumora/app/bin", "/"}, {"/levels", "service_debug=7\n"}});
         ASSERT_EQ(mkfifo((tmp / "fifo").c_str(), 0600), 0);  // the client script waits on it
         Logger::Initialize(Logger::TYPE_FILE, tmp / "log", tmp / "levels", 50);
     }
-    static pid_t spawn(const char* program, const char* arg = nullptr, uid_t user = 0) {
-        const pid_t pid = fork();
-        if (pid == 0 && user && (setgid(user) != 0 || setuid(user) != 0)) _exit(126);
-        return pid == 0 ? (execlp(program, program, arg, nullptr), _exit(127), 0) : pid;
+    std::string log() {  // since the last call
+        const std::string lines = log_lines(tmp / "log");
+        return write_file(tmp / "log", ""), lines;
     }
-    std::string log() {  // since the last call, without the time, line numbers shown as N
-        const std::string text = read_file(tmp / "log");
-        return write_file(tmp / "log", ""), std::regex_replace(text, std::regex(R"(\S+ \d\d \d\d:\d\d:\d\d (.*?)\(\d+\))"), "$1(N)");
-    }
-    // The client script, once running with `on_term` as its SIGTERM trap and named in the pid file; else 0.
-    // It ends by itself after `secs` seconds.
+    // The client script, once running as `user` with `on_term` as its SIGTERM trap and named in the pid file; else 0.
     pid_t start(const std::string& on_term, const std::string& secs = "30", uid_t user = 0) {
-        write_file(bin, "#!/bin/bash\ntrap '" + on_term + "' TERM\necho \"pid=$$\" > \"$HOME/.Lumora/ui.pid\"\nread -t " + secs + " x <> \"$HOME/fifo\"\n");
-        const pid_t pid = (chmod(bin.c_str(), 0755), spawn(bin.c_str(), nullptr, user));
-        return wait_for([&] { return exists(pid_file) && read_file(pid_file) == "pid=" + std::to_string(pid) + "\n"; }) ? pid : 0;
+        write_client(bin, on_term, secs, tmp / "fifo");
+        const pid_t pid = spawn(bin.c_str(), nullptr, user);
+        return comes_to_hold(pid_file, "pid=" + std::to_string(pid) + "\n") ? pid : 0;
     }
     double stop() {  // seconds taken
         const auto t0 = std::chrono::steady_clock::now();
-        return MacService().StopService(), std::chrono::duration<double>(std::chrono::steady_clock::now() - t0).count();
+        return MacService().StopService(), seconds_since(t0);
     }
     TempDir tmp;
     const std::string bin = tmp / ".Lumora/app/bin/lumora-ui", pid_file = tmp / ".Lumora/ui.pid", named = "pid file '" + pid_file + "'";
@@ -72,7 +62,8 @@ TEST_F(MacServiceTest, UpgradeWhenTargetBuildIsHigherOrBinaryMissing) {
 TEST_F(MacServiceTest, StopEndsOnlyTheClientByTermOrAfterFiveSecondsByKill) {
     const pid_t ui = start("touch \"$HOME/term\"; exit");
     EXPECT_LT(stop(), 1.5);
-    EXPECT_TRUE(exists(tmp / "term") && kill(ui, 0) != 0);
+    EXPECT_TRUE(exists(tmp / "term"));
+    EXPECT_NE(kill(ui, 0), 0);
     const pid_t stubborn = start("");
     EXPECT_NEAR(stop(), 5.75, 1.25);  // 4.5 to 7 s
     EXPECT_TRUE(wait_for([&] { return kill(stubborn, 0) != 0; }));
@@ -95,7 +86,7 @@ TEST_F(MacServiceTest, StopEndsOnlyTheClientByTermOrAfterFiveSecondsByKill) {
 // after all) is logged; the five probes and the SIGKILL follow all the same.
 TEST_F(MacServiceTest, ARefusedSigtermIsLoggedAndTheProbesAndSigkillStillFollow) {
     if (geteuid() != 0) GTEST_SKIP() << "root gives the client to another user, then gives up its right to signal it";
-    nftw(tmp.path().c_str(), [](const char* p, const struct stat*, int, FTW*) { return lchown(p, 65534, 65534); }, 16, FTW_PHYS);
+    give_to(tmp.path(), 65534);
     const pid_t ui = start("", "30", 65534);
     const auto t0 = std::chrono::steady_clock::now();
     const pid_t stopper = fork();  // still root and still able to read the client's identity, but not to signal it
@@ -106,7 +97,7 @@ TEST_F(MacServiceTest, ARefusedSigtermIsLoggedAndTheProbesAndSigkillStillFollow)
         _exit(syscall(SYS_capset, &header, caps) == 0 ? (MacService().StopService(), 0) : 1);
     }
     ASSERT_TRUE(wait_for([&] { return kill(stopper, 0) != 0; }, 1200));
-    EXPECT_NEAR(std::chrono::duration<double>(std::chrono::steady_clock::now() - t0).count(), 5.75, 1.25);
+    EXPECT_NEAR(seconds_since(t0), 5.75, 1.25);
     EXPECT_EQ(log(), "[ERROR] mac/mac-service.cpp(N): kill: Operation not permitted (1)\n");
     EXPECT_EQ(kill(ui, SIGKILL), 0) << "SIGKILL was refused too";
 }
@@ -122,7 +113,8 @@ TEST_F(MacServiceTest, StopNeverSignalsTheProgramThatTookTheClientsPid) {
         std::thread take([&] { wait_for([&] { return kill(ui, 0) != 0; }), taker = at_pid(ui, [] { return spawn("sleep", "30"); }); });
         EXPECT_LT(stop(), 4.5) << pidfd;
         take.join();
-        EXPECT_TRUE(taker == ui && kill(taker, SIGKILL) == 0) << pidfd;  // it was still running
+        EXPECT_EQ(taker, ui) << pidfd;
+        EXPECT_EQ(kill(taker, SIGKILL), 0) << pidfd;  // it was still running
         EXPECT_EQ(log(), "");
     }
     FSPidfdEnable(true);
@@ -133,6 +125,6 @@ TEST_F(MacServiceTest, PostUpgradeStartsTheClientDetachedWithoutArgumentsHereOrL
     EXPECT_EQ(log(), "[ERROR] mac/mac-service.cpp(N): Failed to launch Lumora UI\n");
     write_file(bin, "#!/bin/sh\necho \"$# $(pwd -P)\" > \"$HOME/launched\"\n"), chmod(bin.c_str(), 0755);
     MacService().PostUpgrade();
-    EXPECT_TRUE(wait_for([&] { return exists(tmp / "launched") && read_file(tmp / "launched") == "0 " + std::filesystem::current_path().string() + "\n"; }));
+    EXPECT_TRUE(comes_to_hold(tmp / "launched", "0 " + std::filesystem::current_path().string() + "\n"));
     EXPECT_EQ(log(), "");
 }

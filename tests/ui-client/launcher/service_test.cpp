@@ -2,9 +2,6 @@
 // backup/extract/rollback swap of the app folder, the copy. Real packages: launcher_e2e_test.
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <regex>
-
 #include "log.h"
 #include "mac/mac-service.h"
 #include "test-support.h"
@@ -18,10 +15,6 @@ const std::string E = "[ERROR] lumora-service.cpp(N): ", I = "[INFO] lumora-serv
 const Tree kOld{{"/INFO", "[Version]\nbuild_version=100\n"}, {"/bin", "/"}, {"/bin/lumora-ui", "old ui"}};
 const Tree kNew{{"/INFO", "[Version]\nbuild_version=200\n"}, {"/bin", "/"}, {"/bin/lumora-ui", "new ui"}}, kOther{{"/x", "x"}};
 
-Tree snapshot(const std::string& root, Tree tree = {}) {
-    for (const auto& e : fs::recursive_directory_iterator(root)) tree[e.path().string().substr(root.size())] = e.is_directory() ? "/" : read_file(e.path());
-    return tree;
-}
 Tree under(const std::string& prefix, const Tree& tree) {
     Tree out{{prefix, "/"}};
     for (const auto& [rel, content] : tree) out[prefix + rel] = content;
@@ -37,8 +30,7 @@ struct Sandbox {
         Logger::Initialize(Logger::TYPE_FILE, tmp / "log", tmp / "levels", 50);
     }
     ~Sandbox() { Logger::Destroy(); for (const auto& e : fs::directory_iterator(home)) EXPECT_EQ(e.path().filename(), ".Lumora"); }
-    // The log without its time prefixes, line numbers shown as N.
-    std::string log() const { return std::regex_replace(read_file(tmp / "log"), std::regex(R"(\S+ \d\d \d\d:\d\d:\d\d (.*?)\(\d+\))"), "$1(N)"); }
+    std::string log() const { return log_lines(tmp / "log"); }
 };
 
 // Extraction is scripted; left unset, a call throws and fails the test.
