@@ -45,7 +45,9 @@ QtSingleApplication::QtSingleApplication(int& argc, char** argv, bool /*GUIenabl
     socket_name_ = QStringLiteral("qtsingleapp-") + letters_of(id_.section(QLatin1Char('/'), -1)) +
                    QLatin1Char('-') + QString::number(crc, 16) + QLatin1Char('-') +
                    QString::number(::getuid(), 16);
-    socket_path_ = QDir(QDir::tempPath()).absolutePath() + QLatin1Char('/') + socket_name_;
+    // Qt gives no temp folder for a TMPDIR that does not exist: not the working folder then.
+    const QString temp = QDir::tempPath();
+    socket_path_ = (temp.isEmpty() ? QStringLiteral("/tmp") : QDir(temp).absolutePath()) + QLatin1Char('/') + socket_name_;
     lock_name_ = socket_path_ + QStringLiteral("-lockfile");
     // The claimed name stands for the socket's path, so instances with other temp folders stay apart
     // as their locks do. Abstract names are short: a long path is represented by its hash.

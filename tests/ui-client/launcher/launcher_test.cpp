@@ -117,6 +117,15 @@ TEST(SingleInstance, OneHolderPerPathAndUserAndAnEndedOneFreesTheGuard) {
     EXPECT_TRUE(exists(socket.toStdString() + "-lockfile"));
 }
 
+// Qt has no temp folder for a TMPDIR that does not exist: the guard then keeps to /tmp, never the working folder.
+TEST(SingleInstance, AMissingTempFolderLeavesTheWorkingFolderAlone) {
+    TempDir tmp;
+    auto p = probe(tmp / "missing", 0);
+    EXPECT_EQ(said(*p), "first");
+    p->waitForFinished();
+    EXPECT_EQ(QDir::current().entryList({"qtsingleapp-*"}), QStringList());
+}
+
 // Where no lock can be taken (no lock service: ENOLCK), that is no other instance: the probe says why and
 // guards itself by its local name, which refuses a second one and ends with its holder, crashed or not.
 TEST(SingleInstance, ALockThatCannotBeTakenFallsBackOnAGuardThatEndsWithItsHolder) {
