@@ -102,18 +102,14 @@ inline void make_dir(const std::string& path) {
     if (mkdir(path.c_str(), 0755) != 0) throw std::runtime_error("mkdir failed: " + path);
 }
 
-inline void make_link(const std::string& target, const std::string& path) {
-    if (symlink(target.c_str(), path.c_str()) != 0) throw std::runtime_error("symlink failed: " + path);
-}
-
 // A tree as relative path ("/name/...") -> file content, "/" for a folder or "->target" for a
 // symbolic link. Parents sort before their entries.
 using Tree = std::map<std::string, std::string>;
 inline void make_tree(const std::string& root, const Tree& tree) {
     for (const auto& [rel, content] : tree) {
         if (content == "/") make_dir(root + rel);
-        else if (content.compare(0, 2, "->") == 0) make_link(content.substr(2), root + rel);
-        else write_file(root + rel, content);
+        else if (content.compare(0, 2, "->") != 0) write_file(root + rel, content);
+        else if (symlink(content.c_str() + 2, (root + rel).c_str()) != 0) throw std::runtime_error("symlink failed: " + root + rel);
     }
 }
 
@@ -195,32 +191,23 @@ inline pid_t reap_marked(const std::string& marker) {
     return waitpid(pid, nullptr, 0) == pid ? pid : 0;
 }
 
-// Sets the last process id the kernel gave out: the next fork gets the one after, if free.
-// Linux and root only.
-inline bool set_last_pid(long last) {
-    const std::string text = std::to_string(last);
-    const int fd = open("/proc/sys/kernel/ns_last_pid", O_WRONLY);
-    const bool set = fd >= 0 && write(fd, text.data(), text.size()) == static_cast<ssize_t>(text.size());
-    if (fd >= 0) close(fd);
-    return set;
-}
-
-// Calls `start`, which forks and gives the child's pid, until the child gets process id `pid`
-// (which must be free); children that missed it are killed. Another process may take the id
-// first. The last id given out is put back after, so that other processes do not go on to reuse
-// recently freed ids. The child's pid, or -1.
+// Calls `start`, which forks and gives the child's pid, until the child gets process id `pid` (which must be free):
+// the last id the kernel gave out is set to the one before (Linux and root only); children that missed it are killed.
+// Another process may take the id first. The last id given out is put back after, so that other processes do not go
+// on to reuse recently freed ids. The child's pid, or -1.
 template <class Start>
 pid_t at_pid(pid_t pid, Start start) {
+    const char* const last_pid = "/proc/sys/kernel/ns_last_pid";
     long before = 0, now = 0;
-    std::ifstream("/proc/sys/kernel/ns_last_pid") >> before;
+    std::ifstream(last_pid) >> before;
     pid_t child = -1;
     for (int i = 0; i < 100; ++i) {
-        child = set_last_pid(pid - 1) ? start() : -1;
+        child = std::ofstream(last_pid) << pid - 1 << std::flush ? start() : -1;
         if (child == pid || child < 0) break;
         kill(child, SIGKILL), waitpid(child, nullptr, 0), child = -1;
     }
-    std::ifstream("/proc/sys/kernel/ns_last_pid") >> now;
-    if (now < before) set_last_pid(before);
+    std::ifstream(last_pid) >> now;
+    if (now < before) std::ofstream(last_pid) << before;
     return child;
 }
 

@@ -4,21 +4,12 @@
 // then "exit <TAB> code of the event loop <TAB> shown|hidden". It only watches: the launcher's own code runs unchanged.
 //   --close      the user closes the dialog's window (through its QWindow) at the first value shown
 //   --grab PNG   (X11) while the bar is between 1 and 99 %, grab the screen into PNG until it shows the dialog:
-//                grab <TAB> value <TAB> WxH+X+Y of the window, "on screen" or not <TAB> "bar varied" or "bar uniform"
+//                grab <TAB> value <TAB> width of the window <TAB> "bar varied" or "bar uniform"
 #include <clocale>
 #include <cstdio>
-#include <cstring>
+#include <functional>
 
-#include <QApplication>
-#include <QDir>
-#include <QImage>
-#include <QPixmap>
-#include <QProgressBar>
-#include <QScreen>
-#include <QSet>
-#include <QTimer>
-#include <QTranslator>
-#include <QWindow>
+#include <QtWidgets>
 
 #include "fs-platform.h"
 #include "launcher.h"
@@ -38,77 +29,22 @@ extern "C" const char* __lsan_default_suppressions() {
 // libxkbcommon-x11 strndup()s names that have no terminating NUL, which is legal; strict string checks read on.
 extern "C" const char* __asan_default_suppressions() { return "interceptor_via_lib:libxkbcommon-x11.so\n"; }
 
-class Recorder : public QObject {
-public:
-    Recorder(QProgressDialog* dialog, bool close, const char* png)
-        : dialog_(dialog), bar_(dialog->findChild<QProgressBar*>()), close_(close), png_(png) {
-        dialog_->installEventFilter(this);
-        connect(bar_, &QProgressBar::valueChanged, this, [this] {
-            record("value");
-            if (!close_ || !dialog_->isVisible()) return;
-            close_ = false;  // queued, as a window manager's request arrives
-            QTimer::singleShot(0, this, [this] {
-                record("close");
-                dialog_->windowHandle()->close();
-            });
-        });
-        connect(&grabber_, &QTimer::timeout, this, &Recorder::grab);
-        if (png_) grabber_.start(50);
-    }
-    void record(const char* what) {
-        if (!done_) print(QString::asprintf("%s\t%d\t", what, bar_->value()) + dialog_->labelText() + '\t' + dialog_->windowTitle());
-    }
-    // After the loop: the last grab if none showed the dialog; then nothing more is recorded.
-    void finish(int code) {
-        if (grabber_.isActive()) report();
-        print(QString::asprintf("exit\t%d\t%s", code, dialog_->isVisible() ? "shown" : "hidden"));
-        done_ = true;
-    }
+static void print(const QString& line) {
+    std::printf("%s\n", qUtf8Printable(line));
+    std::fflush(stdout);
+}
 
-protected:
+// Hands the dialog's show and hide events to `seen`.
+struct ShowWatch : QObject {
+    std::function<void(const char*)> seen;
     bool eventFilter(QObject*, QEvent* e) override {
-        if (e->type() == QEvent::Show || e->type() == QEvent::Hide) record(e->type() == QEvent::Show ? "shown" : "hidden");
+        if (e->type() == QEvent::Show || e->type() == QEvent::Hide) seen(e->type() == QEvent::Show ? "shown" : "hidden");
         return false;
     }
-
-private:
-    static void print(const QString& line) {
-        std::printf("%s\n", qUtf8Printable(line));
-        std::fflush(stdout);
-    }
-    void grab() {
-        const int value = bar_->value();
-        if (value < 1 || value > 99) return;
-        QScreen* screen = QGuiApplication::primaryScreen();
-        shot_ = screen->grabWindow(0).toImage();
-        const QRect frame = dialog_->frameGeometry(), bar(bar_->mapToGlobal(QPoint()), bar_->size());
-        QSet<QRgb> colours;
-        for (int y = bar.top(); y <= bar.bottom(); ++y)
-            for (int x = bar.left(); x <= bar.right(); ++x) colours.insert(shot_.valid(x, y) ? shot_.pixel(x, y) : 0);
-        const bool shown = dialog_->windowHandle() && dialog_->windowHandle()->isExposed() && screen->geometry().contains(frame);
-        line_ = QStringLiteral("grab\t%1\t%2x%3+%4+%5 %6\tbar %7").arg(value).arg(frame.width()).arg(frame.height())
-                    .arg(frame.x()).arg(frame.y()).arg(shown ? "on screen" : "not on screen")
-                    .arg(colours.size() > 1 ? "varied" : "uniform");
-        if (shown && colours.size() > 1) report();
-    }
-    void report() {
-        grabber_.stop();
-        if (!shot_.isNull()) shot_.save(QString::fromLocal8Bit(png_), "PNG");
-        print(line_.isEmpty() ? QStringLiteral("grab\tnone") : line_);
-    }
-
-    QProgressDialog* dialog_;
-    QProgressBar* bar_;
-    bool close_, done_ = false;
-    const char* png_;
-    QTimer grabber_;
-    QImage shot_;
-    QString line_;
 };
 
 int main(int argc, char** argv) {
-    const bool close = argc > 1 && std::strcmp(argv[1], "--close") == 0;
-    const char* png = argc > 2 && std::strcmp(argv[1], "--grab") == 0 ? argv[2] : nullptr;
+    const QString option = argc > 1 ? argv[1] : "", png = argc > 2 ? argv[2] : "";
     setlocale(LC_ALL, "");
     qInitResources_texts();
     QApplication app(argc, argv);
@@ -120,14 +56,50 @@ int main(int argc, char** argv) {
     translator.load(QStringLiteral(":/") + QuenLocale::getDefaultLanguage() + QStringLiteral(".qm"), QString(), QString(), QString());
     if (!translator.isEmpty()) QCoreApplication::installTranslator(&translator);
     StrTable::InitStrTable();
-    Launcher* launcher = new Launcher;
+    auto* launcher = new Launcher;
     auto* dialog = dynamic_cast<ProcessingProgressDialog*>(QApplication::topLevelWidgets().value(0));
     if (!dialog) return 2;
-    Recorder recorder(dialog, close, png);
+    QProgressBar* bar = dialog->findChild<QProgressBar*>();
+    const auto record = [&](const char* what) {
+        print(QString::asprintf("%s\t%d\t", what, bar->value()) + dialog->labelText() + '\t' + dialog->windowTitle());
+    };
+    ShowWatch watch;
+    watch.seen = record;
+    dialog->installEventFilter(&watch);
+    bool close = option == "--close";
+    QObject::connect(bar, &QProgressBar::valueChanged, [&] {
+        record("value");
+        if (!close || !dialog->isVisible()) return;
+        close = false;  // queued, as a window manager's request arrives
+        QTimer::singleShot(0, [&] {
+            record("close");
+            dialog->windowHandle()->close();
+        });
+    });
+    QTimer grabber;
+    QString grabbed = "grab\tnone";  // the last grab, reported at the end if none showed the dialog
+    QObject::connect(&grabber, &QTimer::timeout, [&] {
+        if (bar->value() < 1 || bar->value() > 99) return;
+        const QImage shot = QGuiApplication::primaryScreen()->grabWindow(0).toImage();
+        const QRect frame = dialog->frameGeometry(), area(bar->mapToGlobal(QPoint()), bar->size());
+        QSet<QRgb> colours;
+        for (int y = area.top(); y <= area.bottom(); ++y)
+            for (int x = area.left(); x <= area.right(); ++x) colours.insert(shot.valid(x, y) ? shot.pixel(x, y) : 0);
+        const bool varied = colours.size() > 1;
+        grabbed = QString("grab\t%1\t%2\tbar %3").arg(bar->value()).arg(frame.width()).arg(varied ? "varied" : "uniform");
+        const QWindow* window = dialog->windowHandle();
+        if (!varied || !window || !window->isExposed() || !shot.rect().contains(frame)) return;
+        grabber.stop();
+        shot.save(png, "PNG");
+        print(grabbed);
+    });
+    if (option == "--grab") grabber.start(50);
     launcher->Run();
     launcher->Start();
     const int result = QApplication::exec();
-    recorder.finish(result);
+    dialog->removeEventFilter(&watch);
+    if (grabber.isActive()) print(grabbed);
+    print(QString::asprintf("exit\t%d\t%s", result, dialog->isVisible() ? "shown" : "hidden"));
     delete launcher;
     return result;
 }

@@ -14,11 +14,6 @@ namespace fs = std::filesystem;
 static QString q(const std::string& s) { return QString::fromStdString(s); }
 // As root, the launcher and the clients run as nobody, so that file modes stop them as they stop a user.
 static const uid_t kUser = geteuid() == 0 ? 65534 : 0;
-// The environment with one variable set ("NAME=value"), replacing what it had.
-static QStringList with(QStringList env, const QString& assignment) {
-    env = env.filter(QRegularExpression("^(?!" + QRegularExpression::escape(assignment.section('=', 0, 0)) + "=)"));
-    return env << assignment;
-}
 
 // A program reaped by a thread the moment it ends, so that the launcher's kill(pid, 0) sees it gone.
 struct Child {
@@ -44,7 +39,7 @@ static std::vector<pid_t> children() {  // ours, orphans adopted as subreaper in
     return out;
 }
 
-enum Twist { kPlain, kNoBinary, kCorrupt, kRunning, kRelative, kLockedFolders, kNoLogFolder, kUnreadableInfo };
+enum Twist { kPlain, kNoBinary, kCorrupt, kRunning, kRelative, kLockedFolders, kNoLogFolder, kUnreadableInfo, kLooping };
 enum Outcome { kInstalled, kKept, kRolledBack };
 // installed: the app folder's build, 0 for none; bundle: the build the bundle's INFO names, 0 as built (100).
 // home: the home folder's name as stored; asked: as HOME spells it, when otherwise.
@@ -56,8 +51,6 @@ class LauncherE2E : public ::testing::TestWithParam<Case> {
 protected:
     void SetUp() override {
         ASSERT_EQ(prctl(PR_SET_CHILD_SUBREAPER, 1), 0);  // detached clients become our children
-        setenv("QT_QPA_PLATFORM", "minimal", 1);  // headless; the offscreen plug-in of Qt 5.15 leaks at exit
-        unsetenv("QT_PLUGIN_PATH");  // only the bundle's plug-ins may serve the launcher
         ASSERT_EQ(QProcess::execute("cp", {"-a", BUNDLE_DIR, q(tmp.path())}), 0);
         make_dir(bundle + "/log");
         write_file(bundle + "/log/launcher.debug", "launcher_debug=7\nservice_debug=7\n");
@@ -77,12 +70,15 @@ protected:
         EXPECT_EQ(QProcess::execute("bsdtar", {"-xf", q(pkg), "-C", q(app), "bin/lumora-ui"}), 0);
         write_file(app + "/INFO", "[Version]\nmajor_version=1\nminor_version=0\nbuild_version=" + std::to_string(build) + "\n");
     }
-    std::unique_ptr<QProcess> start(bool relative = false, QStringList env = QProcess::systemEnvironment()) {
+    // Through env, with `vars` ("NAME=value") set; when `bare`, with no other variable. The minimal platform: headless (the
+    // offscreen plug-in of Qt 5.15 leaks at exit); no QT_PLUGIN_PATH: only the bundle's plug-ins may serve the launcher.
+    std::unique_ptr<QProcess> start(bool relative = false, const QStringList& vars = {}, bool bare = false) {
         if (kUser) give_to(tmp.path(), kUser);
         auto p = std::make_unique<QProcess>();
-        p->setEnvironment(with(env, "TMPDIR=" + q(temp.empty() ? tmp.path() : temp)));  // the guard's lock file goes there
         if (relative) p->setWorkingDirectory(q(bundle + "/Contents/MacOS"));
-        QStringList args = wrapper;
+        QStringList args = wrapper;  // the guard's lock file goes into TMPDIR
+        args << "env" << (bare ? "-i" : "-uQT_PLUGIN_PATH") << "QT_QPA_PLATFORM=minimal"
+             << q("TMPDIR=" + (temp.empty() ? tmp.path() : temp)) << vars;
         if (kUser) args << "/usr/bin/setpriv" << "--reuid=65534" << "--regid=65534" << "--clear-groups" << "--";
         args << (relative ? "./launcher" : q(bundle + "/Contents/MacOS/launcher"));
         p->start(args.takeFirst(), args);
@@ -110,19 +106,16 @@ protected:
         QProcess::execute("bsdtar", {"-xf", q(pkg), "-C", q(tmp / "unpacked")});
         return snapshot(tmp / "unpacked", true);
     }
-    // The installed client as a script that ignores SIGTERM, running; it ends when a line comes down the fifo.
-    pid_t stubborn_client(std::unique_ptr<Child>& client) {
-        if (!exists(tmp / "fifo")) mkfifo((tmp / "fifo").c_str(), 0600);
-        write_client(bin, "", "30", tmp / "fifo");
-        return running(client);
-    }
-    pid_t running(std::unique_ptr<Child>& client) {  // `bin` started; its pid once the pid file names it, else 0
+    // `bin` started, when `stubborn` as a script that ignores SIGTERM and ends when a line comes down the fifo; its pid once
+    // the pid file names it, else 0.
+    pid_t running(std::unique_ptr<Child>& client, bool stubborn = false) {
+        if (stubborn) {
+            mkfifo((tmp / "fifo").c_str(), 0600);  // or there already
+            write_client(bin, "", "30", tmp / "fifo");
+        }
         if (kUser) give_to(tmp.path(), kUser);
         client = std::make_unique<Child>(bin);
         return comes_to_hold(user + "/ui.pid", "pid=" + std::to_string(client->pid) + "\n") ? client->pid : 0;
-    }
-    bool stop_begun() {
-        return wait_for([&] { return log_of(R"(\[DEBUG\] mac/mac-service\.cpp)").find("local appdata exist") != std::string::npos; });
     }
     pid_t client(pid_t old = 0) {  // once started: our (adopted) child other than `old` running the per-user binary; else 0
         pid_t found = 0;
@@ -147,28 +140,24 @@ TEST_P(LauncherE2E, LeavesTheInstallAndStartsTheClient) {
     if (c.installed) install(c.installed);
     if (c.twist == kNoBinary) fs::remove(bin);
     if (c.bundle) write_file(bundle + "/Contents/Resources/INFO", "[Version]\nbuild_version=" + std::to_string(c.bundle) + "\n");
-    if (c.twist == kCorrupt) fs::resize_file(pkg, fs::file_size(pkg) / 2);
     if (c.twist == kLockedFolders) {  // damaged after a folder that its extraction leaves with mode 000
         put_package({{"/a", "/"}, {"/a/f", "x"}, {"/z", std::string(1 << 20, '\0')}});
         for (std::string d : {"/client/a", "/client"}) chmod((tmp / d).c_str(), 0);  // the package's own folder too
         ASSERT_EQ(QProcess::execute("bsdtar", {"-czf", q(pkg), "-n", "-C", q(tmp / "client"), ".", "a", "a/f", "z", "INFO"}), 0);
-        fs::resize_file(pkg, fs::file_size(pkg) / 2);
     }
-    if (c.twist == kNoLogFolder) {
-        fs::create_directories(user);
-        write_file(user + "/log", "in the way");
-    }
+    if (c.twist == kCorrupt || c.twist == kLockedFolders) fs::resize_file(pkg, fs::file_size(pkg) / 2);
+    if (c.twist == kLooping) make_looping_iso(pkg);
+    if (c.twist == kNoLogFolder) make_tree(home, {{"/.Lumora", "/"}, {"/.Lumora/log", "in the way"}});
     const Tree old = exists(app) ? snapshot(app, true) : Tree();
     std::unique_ptr<Child> old_client;  // it exits 0 on SIGTERM
     if (c.twist == kRunning) { ASSERT_GT(running(old_client), 0); }
     if (c.twist == kUnreadableInfo) chmod((bundle + "/Contents/Resources/INFO").c_str(), 0);
-    const QStringList env = QProcess::systemEnvironment();
-    EXPECT_EQ(finish(*start(c.twist == kRelative, c.asked ? with(env, "HOME=" + q(tmp / c.asked)) : env)), 0);
+    EXPECT_EQ(finish(*start(c.twist == kRelative, c.asked ? QStringList{q("HOME=" + tmp / c.asked)} : QStringList())), 0);
     EXPECT_EQ(out, "lib path = '" + (c.twist == kRelative ? "../Frameworks/plugins" : bundle + "/Contents/Frameworks/plugins") + "'\n");
     EXPECT_EQ(snapshot(app, true), c.outcome == kInstalled ? package() : old);
     EXPECT_FALSE(exists(app + "_tmp"));
     for (const char* made : {"/.Lumora/app", "/.Lumora/log"})  // the client may make its own folder there, not the launcher
-        if (c.asked) { EXPECT_FALSE(exists(tmp / c.asked + made)) << "a second home in the other form"; }
+        EXPECT_FALSE(c.asked && exists(tmp / c.asked + made)) << "a second home in the other form";
     if (old_client) {  // stopped by SIGTERM, on which it exits 0, not by the SIGKILL five seconds later
         EXPECT_LT(secs, 3);
         EXPECT_TRUE(wait_for([&] { return old_client->status == 0; })) << old_client->status;
@@ -179,9 +168,14 @@ TEST_P(LauncherE2E, LeavesTheInstallAndStartsTheClient) {
         "[ERROR] launcher.cpp(N): Failed to upgrade packge\n"};
     const std::string lines = c.twist == kNoLogFolder ? "" : l + "running\n" + between[c.outcome] + l + "done\n";
     EXPECT_EQ(log_of(R"(\[\w+\] launcher\.cpp|\[ERROR\] lumora-service\.cpp)"), lines);
-    if (c.twist == kNoLogFolder) { EXPECT_EQ(read_file(user + "/log"), "in the way"); }
     if (c.twist == kUnreadableInfo) {
         EXPECT_EQ(log_of(R"(\[INFO\] lumora-service\.cpp(?=\(N\): target))"), "[INFO] lumora-service.cpp(N): target_version = (, , , )\n");
+    }
+    if (c.twist == kLooping) {  // libarchive loops for ever: given up after 30 s without progress, the reader still running
+        EXPECT_GT(secs, 30);
+        EXPECT_LT(secs, 45);
+        EXPECT_EQ(log_of(R"(\[ERROR\] extractor\.cpp)"), "[ERROR] extractor.cpp(N): no progress reading '" + pkg +
+                  "' for 30 s, giving up\n[ERROR] extractor.cpp(N): Failed to calculate total file numbers, ret: -1\n");
     }
 }
 
@@ -195,12 +189,15 @@ INSTANTIATE_TEST_SUITE_P(Cases, LauncherE2E, ::testing::Values(
     Case{"NfdHomeAskedForInNfc", 99, 0, kRunning, kInstalled, kNfdHome, "Jos\xC3\xA9 M\xC3\xBCller"},
     Case{"LockedFoldersOfADamagedPackageRollBack", 99, 0, kLockedFolders, kRolledBack},
     Case{"NoLogFolderLogsNothingAndGoesOn", 0, 0, kNoLogFolder, kInstalled},
-    Case{"UnreadableBundleInfoIsBuildZero", 100, 0, kUnreadableInfo, kKept}),
+    Case{"UnreadableBundleInfoIsBuildZero", 100, 0, kUnreadableInfo, kKept},
+    Case{"LoopingPackageIsGivenUpAfterThirtySeconds", 99, 0, kLooping, kRolledBack}),
     [](const ::testing::TestParamInfo<Case>& i) { return std::string(i.param.name); });
 
-// An old client that ignores SIGTERM holds the first launcher in its stop for some five seconds. Where the
-// lock file cannot even be made, the first instance says so and guards itself by other means.
-TEST_F(LauncherE2E, SecondInstanceIsRefusedAtOnceWhileTheFirstRuns) {
+// An old client that ignores SIGTERM holds the first launcher in its stop for some five seconds: a second instance is
+// refused at once. Where the lock file cannot even be made, the first instance says so and guards itself by other means.
+// The old client exits 2.5 s in; another program takes its pid before the SIGKILL moment and is never signalled.
+TEST_F(LauncherE2E, SecondInstanceIsRefusedAndTheProgramThatTookTheClientsPidIsNeverSignalled) {
+    if (geteuid() != 0) GTEST_SKIP() << "taking a given pid needs root";
     write_file(tmp / "file", "");
     for (const std::string& folder : {tmp.path(), tmp / "file"}) {  // a file: no lock file can be made in it
         SCOPED_TRACE(folder);
@@ -208,20 +205,26 @@ TEST_F(LauncherE2E, SecondInstanceIsRefusedAtOnceWhileTheFirstRuns) {
         set_home("home-" + std::to_string(temp.size()));
         install(99);
         std::unique_ptr<Child> stubborn;
-        ASSERT_GT(stubborn_client(stubborn), 0);
+        ASSERT_GT(running(stubborn, true), 0);
         const auto first = start();
-        ASSERT_TRUE(stop_begun());
+        ASSERT_TRUE(wait_for([&] { return log_of(R"(\[DEBUG\] mac/mac-service\.cpp(?=\(N\): local appdata exist))") != ""; }));
+        const auto begun = std::chrono::steady_clock::now();
         EXPECT_EQ(finish(*start()), 0);
         EXPECT_LT(secs, 1.5);
-        EXPECT_EQ(out, "lib path = '" + bundle + "/Contents/Frameworks/plugins'\n");
         const std::string refused = "[DEBUG] main.cpp(N): app has already launched, return\n", fallback = "[WARNING] main.cpp(N): "
             "single-instance lock '" + temp + "/qtsingleapp-launch-*' cannot be used (Not a directory, 20); guarded by its local name instead\n";
         const std::string main_lines = std::regex_replace(log_of(R"(\[\w+\] main\.cpp)"), std::regex("launch-[^']*-lockfile"), "launch-*");
         EXPECT_EQ(main_lines, folder == tmp.path() ? refused : fallback + refused);
         EXPECT_EQ(log_of(R"(\[\w+\] launcher\.cpp)"), "[DEBUG] launcher.cpp(N): running\n");  // the first held the guard throughout
+        std::this_thread::sleep_until(begun + std::chrono::milliseconds(2500));
+        write_file(tmp / "fifo", "end\n");
+        ASSERT_TRUE(wait_for([&] { return stubborn->status != -1; }));
+        const pid_t taker = at_pid(stubborn->pid, [] { return spawn("/bin/sleep", "30", kUser); });
+        EXPECT_EQ(taker, stubborn->pid);
         EXPECT_EQ(finish(*first), 0);
-        EXPECT_EQ(finish(*start()), 0);  // the guard ends with its holder
-        EXPECT_NE(log_of(R"(\[\w+\] launcher\.cpp)").find("no need to upgrade"), std::string::npos);
+        EXPECT_EQ(waitpid(taker, nullptr, WNOHANG), 0) << "the program that took the client's pid was signalled";
+        EXPECT_EQ(snapshot(app, true), package());
+        EXPECT_EQ(log_of(R"(\[ERROR\] [\w/.-]+|\[NOTE\] mac/mac-service\.cpp)"), "");
     }
 }
 
@@ -231,51 +234,38 @@ TEST_F(LauncherE2E, EveryLocaleInstallsThePackageByteForByte) {
     const std::string nfd = "cafe\xCC\x81", nfc = "\xC3\xA9t\xC3\xA9";
     put_package({{"/bin", "/"}, {"/bin/lumora-ui", "#!/bin/sh\n"}, {"/données", "/"}, {"/données/" + nfc, nfc}, {"/" + nfd, nfd},
                  {"/日本語", "->données/" + nfc}});
-    // The environment of `env -i`, and what the sanitizers are told.
-    const QStringList bare = QProcess::systemEnvironment().filter(QRegularExpression("^(A|UB|L)SAN_OPTIONS=")) << "QT_QPA_PLATFORM=minimal";
+    Tree reference;  // as installed under a UTF-8 locale, the first
+    const QStringList sanitizers = QProcess::systemEnvironment().filter(QRegularExpression("^(A|UB|L)SAN_OPTIONS="));
     for (const char* format : {"pax", "zip"}) {
-        QProcess bsdtar;
-        bsdtar.setEnvironment({"LC_ALL=C.UTF-8", "PATH=/usr/bin:/bin"});
-        bsdtar.start("bsdtar", {"-c", "--format", format, "-f", q(pkg), "-n", "-C", q(tmp / "client"), "bin", "bin/lumora-ui", "données",
-                                "données/" + q(nfc), q(nfd), "日本語", "INFO"});
-        ASSERT_TRUE(bsdtar.waitForFinished());
-        ASSERT_EQ(bsdtar.exitCode(), 0);
-        Tree reference;
+        ASSERT_EQ(QProcess::execute("env", {"LC_ALL=C.UTF-8", "bsdtar", "-c", "--format", format, "-f", q(pkg), "-n", "-C",
+                                            q(tmp / "client"), "bin", "bin/lumora-ui", "données", "données/" + q(nfc), q(nfd), "日本語",
+                                            "INFO"}), 0);
         for (const QStringList& locale : {QStringList{"LANG=C.UTF-8"}, {}, {"LANG=C"}, {"LC_ALL=POSIX"}, {"LANG=C.UTF-8", "LC_ALL=C"}}) {
             SCOPED_TRACE(format + (" " + locale.join(" ").toStdString()));
-            set_home(std::string("home-") + format + std::to_string(reference.size()) + locale.join("-").toStdString());
-            EXPECT_EQ(finish(*start(false, QStringList(bare) << "HOME=" + q(home) << locale)), 0);
+            set_home(std::string("home-") + format + locale.join("-").toStdString());
+            EXPECT_EQ(finish(*start(false, QStringList(sanitizers) << q("HOME=" + home) << locale, true)), 0);  // as under env -i
             if (reference.empty()) reference = snapshot(app, true);
-            else EXPECT_EQ(snapshot(app, true), reference);
+            EXPECT_EQ(snapshot(app, true), reference);
         }
-        EXPECT_EQ(reference["/données/" + nfc], nfc + " mode 420") << format;
-        EXPECT_EQ(reference["/日本語"], "->données/" + nfc) << format;
-        EXPECT_EQ(reference.size(), 7u) << format;
     }
+    EXPECT_EQ(reference.size(), 7u);
+    EXPECT_EQ(reference["/données/" + nfc], nfc + " mode 420");
+    EXPECT_EQ(reference["/日本語"], "->données/" + nfc);
 }
 
-// The client gets the launcher's standard streams and nothing else: no log, guard, socket or archive, nor a
-// descriptor the launcher itself inherited.
-TEST_F(LauncherE2E, TheClientInheritsNoDescriptors) {
+// INFO tells the next start that the installation is complete, so it reaches the disk after everything else, and the
+// old installation is deleted only once the new one is on disk: one flush before each. The client gets the launcher's
+// standard streams and nothing else: no log, guard, socket or archive, nor a descriptor the launcher itself inherited.
+TEST_F(LauncherE2E, AnUpgradeFlushesBeforeItsInfoAndBeforeTheBackupGoesAndTheClientInheritsNoDescriptors) {
     set_home("home");
-    put_package({{"/bin", "/"}, {"/bin/lumora-ui", "#!/bin/sh\nexec ls /proc/self/fd > \"$HOME/fds\"\n"}});
-    const int inherited = open("/dev/null", O_RDONLY);  // not close-on-exec: the launcher gets it
-    auto launcher = start();
-    close(inherited);
-    EXPECT_EQ(finish(*launcher), 0);
-    ASSERT_TRUE(wait_for([&] { return exists(home + "/fds") && !read_file(home + "/fds").empty(); }));
-    EXPECT_EQ(read_file(home + "/fds"), "0\n1\n2\n3\n");  // 3 is the folder ls reads
-}
-
-// INFO tells the next start that the installation is complete, so it reaches the disk after everything
-// else, and the old installation is deleted only once the new one is on disk: one flush before each.
-TEST_F(LauncherE2E, AnUpgradeFlushesBeforeItsInfoAndBeforeTheBackupGoes) {
-    set_home("home");
-    put_package({{"/bin", "/"}, {"/bin/lumora-ui", "#!/bin/sh\n"}});  // a client that ends, so strace ends
+    put_package({{"/bin", "/"}, {"/bin/lumora-ui", "#!/bin/sh\nexec ls /proc/self/fd > \"$HOME/fds\"\n"}});  // it ends, so strace ends
     install(99);
     const std::string trace = tmp / "trace";
     wrapper = QStringList{"strace", "-f", "-qq", "-o", q(trace), "-e", "trace=syncfs,openat,unlink,unlinkat,rmdir"};
-    EXPECT_EQ(finish(*start(false, with(QProcess::systemEnvironment(), "ASAN_OPTIONS=detect_leaks=0"))), 0);  // no leak check under ptrace
+    const int inherited = open("/dev/null", O_RDONLY);  // not close-on-exec: the launcher gets it
+    auto launcher = start(false, {"ASAN_OPTIONS=detect_leaks=0"});  // no leak check under ptrace
+    close(inherited);
+    EXPECT_EQ(finish(*launcher), 0);
     std::vector<std::string> events;  // "sync", "write <path in app>", "remove" (of a run of removals in app_tmp)
     const std::regex sync(R"(syncfs\(\d+\) += 0)"), write(R"x(openat\(AT_FDCWD, ")x" + app + R"x(/([^"]+)", O_WRONLY)x"),
         remove(R"x((?:unlink|unlinkat|rmdir)\((?:AT_FDCWD, )?")x" + app + R"x(_tmp)x");
@@ -285,44 +275,6 @@ TEST_F(LauncherE2E, AnUpgradeFlushesBeforeItsInfoAndBeforeTheBackupGoes) {
         else if (std::regex_search(l, m, write)) events.push_back("write " + m[1].str());
         else if (std::regex_search(l, m, remove) && (events.empty() || events.back() != "remove")) events.push_back("remove");
     EXPECT_EQ(events, (std::vector<std::string>{"write bin/lumora-ui", "sync", "write INFO", "sync", "remove"}));
-}
-
-// The old client outlives SIGTERM and exits 2.5 s later; another program takes its pid before the SIGKILL moment.
-TEST_F(LauncherE2E, UpgradeNeverSignalsTheProgramThatTookTheClientsPid) {
-    if (geteuid() != 0) GTEST_SKIP() << "taking a given pid needs root";
-    set_home("home");
-    install(99);
-    std::unique_ptr<Child> old;
-    ASSERT_GT(stubborn_client(old), 0);
-    const auto launcher = start();
-    ASSERT_TRUE(stop_begun());
-    usleep(2500000);
-    write_file(tmp / "fifo", "end\n");
-    ASSERT_TRUE(wait_for([&] { return old->status != -1; }));
-    const pid_t taker = at_pid(old->pid, [] { return spawn("/bin/sleep", "30", kUser); });
-    EXPECT_EQ(taker, old->pid);
-    EXPECT_EQ(finish(*launcher), 0);
-    EXPECT_EQ(waitpid(taker, nullptr, WNOHANG), 0) << "the program that took the client's pid was signalled";
-    EXPECT_EQ(snapshot(app, true), package());
-    EXPECT_EQ(log_of(R"(\[ERROR\] [\w/.-]+|\[NOTE\] mac/mac-service\.cpp)"), "");
-}
-
-// A package on which libarchive loops for ever: after 30 s without progress the launcher gives up,
-// rolls back, starts the old client and exits, the looping reader still running.
-TEST_F(LauncherE2E, LoopingPackageIsGivenUpAfterThirtySeconds) {
-    set_home("home");
-    install(99);
-    make_looping_iso(pkg);
-    const Tree old = snapshot(app, true);
-    EXPECT_EQ(finish(*start(), 60000), 0);
-    EXPECT_GT(secs, 30);
-    EXPECT_LT(secs, 45);
-    EXPECT_EQ(snapshot(app, true), old);
-    EXPECT_FALSE(exists(app + "_tmp"));
-    EXPECT_GT(client(), 0);
-    EXPECT_EQ(log_of(R"(\[ERROR\] [\w-]+\.cpp|\[\w+\] launcher\.cpp)"), "[DEBUG] launcher.cpp(N): running\n"
-        "[ERROR] extractor.cpp(N): no progress reading '" + pkg + "' for 30 s, giving up\n"
-        "[ERROR] extractor.cpp(N): Failed to calculate total file numbers, ret: -1\n"
-        "[ERROR] lumora-service.cpp(N): Failed to extract package, rollback to old installation\n"
-        "[ERROR] launcher.cpp(N): Failed to upgrade packge\n[DEBUG] launcher.cpp(N): done\n");
+    ASSERT_TRUE(wait_for([&] { return exists(home + "/fds") && !read_file(home + "/fds").empty(); }));
+    EXPECT_EQ(read_file(home + "/fds"), "0\n1\n2\n3\n");  // 3 is the folder ls reads
 }
