@@ -1,5 +1,5 @@
-// Runs the launcher as its entry point does once the single-instance guard has passed (with Qt's own plug-in folder),
-// from the bundle it is copied into, and prints what its progress dialog shows as it happens, one line per moment:
+// Runs the launcher as its entry point does once the single-instance guard has passed (with Qt's own plug-in folder and
+// no log: neither changes the dialog), from the bundle it is copied into, and prints what its progress dialog shows as it happens, one line per moment:
 //   shown|hidden|value|close <TAB> value <TAB> label <TAB> title
 // then "exit <TAB> code of the event loop <TAB> shown|hidden". It only watches: the launcher's own code runs unchanged.
 //   --close      the user closes the dialog's window (through its QWindow) at the first value shown
@@ -11,10 +11,7 @@
 
 #include <QtWidgets>
 
-#include "fs-platform.h"
 #include "launcher.h"
-#include "log.h"
-#include "lumora-service.h"
 #include "progress-dialog.h"
 #include "quenlocale.h"
 #include "strtable.h"
@@ -48,10 +45,6 @@ int main(int argc, char** argv) {
     setlocale(LC_ALL, "");
     qInitResources_texts();
     QApplication app(argc, argv);
-    const ustring log_dir = Service::GetUserLumoraInstallPath() + "/log";
-    if (QDir().mkpath(QString::fromUtf8(log_dir.c_str())))
-        Logger::Initialize(Logger::TYPE_FILE, log_dir + "/launcher.log", Service::GetRootLumoraInstallPath() + "/log/launcher.debug", 50);
-    FSUseUtf8Names();
     QTranslator translator;
     translator.load(QStringLiteral(":/") + QuenLocale::getDefaultLanguage() + QStringLiteral(".qm"), QString(), QString(), QString());
     if (!translator.isEmpty()) QCoreApplication::installTranslator(&translator);

@@ -48,9 +48,8 @@ TEST_P(DialogRun, ShowsWhatTheRunDoes) {
         if (i % 100 == 0) make_dir(tmp / "c/d" + std::to_string(i / 100));
         write_file(tmp / "c/d" + std::to_string(i / 100) + "/f" + std::to_string(i), std::string(i % 700, 'x'));
     }
-    for (const std::string& dir : {bundle + "/Contents/MacOS", bundle + "/log", res + "/package", app}) fs::create_directories(dir);
+    for (const std::string& dir : {bundle + "/Contents/MacOS", res + "/package", app}) fs::create_directories(dir);
     fs::copy_file(RECORDER, bundle + "/Contents/MacOS/launcher");  // a copy: the bundle is found from the real path
-    write_file(bundle + "/log/launcher.debug", "launcher_debug=7\n");
     if (c.package == kDamaged || c.package == kCurrent) fs::copy(tmp / "c", app, fs::copy_options::recursive);
     if (c.package == kDamaged) {  // stored zip, one entry's data damaged: its CRC fails after two entries are out
         write_file(app + "/INFO", "[Version]\nbuild_version=99\n");
