@@ -51,6 +51,8 @@ class LauncherE2E : public ::testing::TestWithParam<Case> {
 protected:
     void SetUp() override {
         ASSERT_EQ(prctl(PR_SET_CHILD_SUBREAPER, 1), 0);  // detached clients become our children
+        setenv("QT_QPA_PLATFORM", "minimal", 1);  // headless; the offscreen plug-in of Qt 5.15 leaks at exit
+        unsetenv("QT_PLUGIN_PATH");  // only the bundle's plug-ins may serve the launcher
         ASSERT_EQ(QProcess::execute("cp", {"-a", BUNDLE_DIR, q(tmp.path())}), 0);
         make_dir(bundle + "/log");
         write_file(bundle + "/log/launcher.debug", "launcher_debug=7\nservice_debug=7\n");
@@ -70,15 +72,13 @@ protected:
         EXPECT_EQ(QProcess::execute("bsdtar", {"-xf", q(pkg), "-C", q(app), "bin/lumora-ui"}), 0);
         write_file(app + "/INFO", "[Version]\nmajor_version=1\nminor_version=0\nbuild_version=" + std::to_string(build) + "\n");
     }
-    // Through env, with `vars` ("NAME=value") set; when `bare`, with no other variable. The minimal platform: headless (the
-    // offscreen plug-in of Qt 5.15 leaks at exit); no QT_PLUGIN_PATH: only the bundle's plug-ins may serve the launcher.
-    std::unique_ptr<QProcess> start(bool relative = false, const QStringList& vars = {}, bool bare = false) {
+    // Through env, with its options and assignments `vars` ("-i" for no inherited variable, "NAME=value").
+    std::unique_ptr<QProcess> start(bool relative = false, const QStringList& vars = {}) {
         if (kUser) give_to(tmp.path(), kUser);
         auto p = std::make_unique<QProcess>();
         if (relative) p->setWorkingDirectory(q(bundle + "/Contents/MacOS"));
         QStringList args = wrapper;  // the guard's lock file goes into TMPDIR
-        args << "env" << (bare ? "-i" : "-uQT_PLUGIN_PATH") << "QT_QPA_PLATFORM=minimal"
-             << q("TMPDIR=" + (temp.empty() ? tmp.path() : temp)) << vars;
+        args << "env" << vars << q("TMPDIR=" + (temp.empty() ? tmp.path() : temp));
         if (kUser) args << "/usr/bin/setpriv" << "--reuid=65534" << "--regid=65534" << "--clear-groups" << "--";
         args << (relative ? "./launcher" : q(bundle + "/Contents/MacOS/launcher"));
         p->start(args.takeFirst(), args);
@@ -235,7 +235,9 @@ TEST_F(LauncherE2E, EveryLocaleInstallsThePackageByteForByte) {
     put_package({{"/bin", "/"}, {"/bin/lumora-ui", "#!/bin/sh\n"}, {"/données", "/"}, {"/données/" + nfc, nfc}, {"/" + nfd, nfd},
                  {"/日本語", "->données/" + nfc}});
     Tree reference;  // as installed under a UTF-8 locale, the first
-    const QStringList sanitizers = QProcess::systemEnvironment().filter(QRegularExpression("^(A|UB|L)SAN_OPTIONS="));
+    // The environment of `env -i`, and what the sanitizers are told.
+    const QStringList bare = QStringList{"-i", "QT_QPA_PLATFORM=minimal"}
+                             << QProcess::systemEnvironment().filter(QRegularExpression("^(A|UB|L)SAN_OPTIONS="));
     for (const char* format : {"pax", "zip"}) {
         ASSERT_EQ(QProcess::execute("env", {"LC_ALL=C.UTF-8", "bsdtar", "-c", "--format", format, "-f", q(pkg), "-n", "-C",
                                             q(tmp / "client"), "bin", "bin/lumora-ui", "données", "données/" + q(nfc), q(nfd), "日本語",
@@ -243,7 +245,7 @@ TEST_F(LauncherE2E, EveryLocaleInstallsThePackageByteForByte) {
         for (const QStringList& locale : {QStringList{"LANG=C.UTF-8"}, {}, {"LANG=C"}, {"LC_ALL=POSIX"}, {"LANG=C.UTF-8", "LC_ALL=C"}}) {
             SCOPED_TRACE(format + (" " + locale.join(" ").toStdString()));
             set_home(std::string("home-") + format + locale.join("-").toStdString());
-            EXPECT_EQ(finish(*start(false, QStringList(sanitizers) << q("HOME=" + home) << locale, true)), 0);  // as under env -i
+            EXPECT_EQ(finish(*start(false, QStringList(bare) << q("HOME=" + home) << locale)), 0);
             if (reference.empty()) reference = snapshot(app, true);
             EXPECT_EQ(snapshot(app, true), reference);
         }
