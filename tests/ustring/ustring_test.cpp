@@ -37,9 +37,7 @@ TEST(Ustring, EditsKeepTextAndViewInStep) {
     const std::tuple<const char*, Edit, std::string> cases[] = {
         {EDIT(s.assign(W(kMixed16), 2)), "a\xE4\xB8\xAD"}, {EDIT(s.assign(std::string("abcd"), 1, 2)), "bc"},
         {EDIT(s.assign(US(0xE9), 2)), "\xC3\xA9\xC3\xA9"}, {EDIT(s.assign(ustring("abcdef"), 2, 3)), "cde"},
-        {EDIT(s = ustring(std::string("x\0y", 3))), "x"}, {EDIT(s = W(u"\U0001F600")), "\xF0\x9F\x98\x80"},
-        {EDIT(s = US(0x4E2D)), "\xE4\xB8\xAD"}, {EDIT(s = std::string("y")), "y"}, {EDIT(s.assign("xyz", 2)), "xy"},
-        {EDIT(s.assign('q', 3)), "qqq"}, {EDIT(s = 'z'), "z"},
+        {EDIT(s = ustring(std::string("x\0y", 3))), "x"}, {EDIT(s.assign("xyz", 2)), "xy"}, {EDIT(s.assign('q', 3)), "qqq"},
         {EDIT(s.append("\xE4\xB8\xAD"); s.append("cdef", 2); s.append("e\0f", 3)), "ab\xE4\xB8\xAD" "cde"},
         {EDIT(s.append(kNul, 4); s.append(W(u"\U0001F600x"), 2)), "abcd\xF0\x9F\x98\x80"},
         {EDIT(s.append('-', 2); s.append(US(0xE9), 2); s.append(ustring("123"), 1, 1)), "ab--\xC3\xA9\xC3\xA9" "2"},
@@ -56,15 +54,13 @@ TEST(Ustring, EditsKeepTextAndViewInStep) {
         {EDIT(s.assign(s.c_str_utf16())), "ab"}, {EDIT(s.assign(s.c_str_utf16(), 1)), "a"},
         {EDIT(s = "a"; for (int i = 0; i < 6; ++i) s += s.c_str()), std::string(64, 'a')},
         {EDIT(s = "a"; for (int i = 0; i < 6; ++i) s += s.c_str_utf16()), std::string(64, 'a')},
-        {EDIT(s.replace('a', 'x')), "xb"}, {EDIT(s[1] = 'X'), "aX"}, {EDIT(s.clear()), ""}, {EDIT(s.trim("ba")), ""},
+        {EDIT(s.replace('a', 'x')), "xb"}, {EDIT(s[1] = 'X'), "aX"}, {EDIT(s.clear()), ""}, {EDIT(s.rtrim("ab")), ""},
         {EDIT(std::istringstream(" \t x\xC3\xA9\nz") >> s), "x\xC3\xA9"}, {EDIT(s.ltrim(""); s.rtrim("")), "ab"},
-        {EDIT(s.ltrim(ustring("a"))), "b"}, {EDIT(s.rtrim(ustring("b"))), "a"}, {EDIT(s.rtrim("ab")), ""},
-        {EDIT(s = " \t\nab c \n"; s.trim(ustring(" \t\n"))), "ab c"},
+        {EDIT(s.ltrim(ustring("a"))), "b"}, {EDIT(s = " \t\nab c \n"; s.trim(ustring(" \t\n"))), "ab c"},
         {EDIT(s = "\xC3\xA9" "a\xC3\xA9"; s.trim("\xC3\xA9")), "a"},  // trimming takes a set of bytes
         {EDIT(s = s.substr(1, 1) + s.substr(2, 5) + s.substr(0, 0) + s.substr(1, npos - 1) + s.substr()), "bbab"},
         {THROWS(s.assign(std::string("a"), 2, 0)), "abbasic_string::substr"}, {THROWS(s.substr(npos)), "absubstr"},
-        {THROWS(s.append(std::string("a"), 2)), "abbasic_string::substr"}, {THROWS(s.assign(s, 3)), "absubstr"},
-        {THROWS(s.append(ustring("abc"), 4)), "absubstr"}, {THROWS(s.substr(3)), "absubstr"},
+        {THROWS(s.append(ustring("abc"), 4)), "absubstr"},
         {EDIT(ustring t("\xC3\xA9"); s = ustring::normalize(t, NFD) + t), "e\xCC\x81\xC3\xA9"},  // the source stays
         {EDIT(ustring t("e\xCC\x81"); s = t.normalize(NFC) + t + ustring().normalize(NFC)), "\xC3\xA9" "e\xCC\x81"},
         {EDIT(s = ustring("\xE2\x84\xAB\xF0\x9F\x98\x80").normalize(NFD)), "A\xCC\x8A\xF0\x9F\x98\x80"}};
