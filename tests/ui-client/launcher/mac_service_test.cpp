@@ -42,17 +42,16 @@ protected:
 
 TEST_F(MacServiceTest, UpgradeWhenTargetBuildIsHigherOrBinaryMissing) {
     // Reading the numbers (saturating, leading digits) is Config's, tested there.
-    const struct { const char *source, *target; int s, t; bool upgrade; } cases[] = {{"100", "100", 100, 100, false},
-        {"100", "99", 100, 99, false}, {"99", "100", 99, 100, true}, {"abc", "", 0, 0, false}};
-    for (bool present : {true, false}) {
-        present ? write_file(bin, "") : (void)::remove(bin.c_str());
-        for (const auto& c : cases) {
-            SCOPED_TRACE(std::string(c.source) + " -> " + c.target + (present ? " with" : " without") + " binary");
-            MacService s;
-            s.source_version.build_version = c.source, s.target_version.build_version = c.target;
-            EXPECT_EQ(s.IsNeedUpgrade(), c.upgrade || !present);
-            EXPECT_EQ(log(), D + "source version = " + std::to_string(c.s) + ", target version = " + std::to_string(c.t) + "\n");
-        }
+    const struct { const char *source, *target; int s, t; bool binary, upgrade; } cases[] = {{"100", "100", 100, 100, true, false},
+        {"100", "99", 100, 99, true, false}, {"99", "100", 99, 100, true, true}, {"abc", "", 0, 0, true, false},
+        {"100", "100", 100, 100, false, true}, {"100", "99", 100, 99, false, true}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(std::string(c.source) + " -> " + c.target + (c.binary ? " with" : " without") + " binary");
+        c.binary ? write_file(bin, "") : (void)::remove(bin.c_str());
+        MacService s;
+        s.source_version.build_version = c.source, s.target_version.build_version = c.target;
+        EXPECT_EQ(s.IsNeedUpgrade(), c.upgrade);
+        EXPECT_EQ(log(), D + "source version = " + std::to_string(c.s) + ", target version = " + std::to_string(c.t) + "\n");
     }
 }
 
