@@ -98,7 +98,7 @@ TEST(SingleInstance, OneHolderPerPathAndUserAndAnEndedOneFreesTheGuard) {
     for (int round = 0; round < 10; ++round) {
         auto first = probe(temp, 1000, a), second = probe(temp, 1000, a);
         EXPECT_EQ(QSet<QString>({said(*first), said(*second)}), QSet<QString>({"first", "running"})) << "round " << round;
-        EXPECT_TRUE(round > 0 || listened()) << "the stale socket replaced";
+        if (round == 0) { EXPECT_TRUE(listened()) << "the stale socket replaced"; }
         first->waitForFinished();
         second->waitForFinished();
     }
