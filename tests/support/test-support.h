@@ -25,8 +25,15 @@
 #include <set>
 #include <stdexcept>
 #include <string>
+#if defined(QT_CORE_LIB)
+#include <QString>
+#endif
 
 namespace testsupport {
+
+#if defined(QT_CORE_LIB)
+inline QString q(const std::string& s) { return QString::fromStdString(s); }
+#endif
 
 // The immutable flag stops even root from changing an entry. False where the file system (or the
 // platform) lacks it.

@@ -10,7 +10,6 @@
 
 using namespace testsupport;
 namespace fs = std::filesystem;
-static QString q(const std::string& s) { return QString::fromStdString(s); }
 
 enum Package { kThree, kDamaged, kCurrent, kMany };  // kMany: thousands of entries, about a second to extract
 struct Case { const char* name; Package package; const char* lang; const char* option; const char* record; };

@@ -11,7 +11,6 @@
 using namespace testsupport;
 namespace fs = std::filesystem;
 
-static QString q(const std::string& s) { return QString::fromStdString(s); }
 // As root, the launcher and the clients run as nobody, so that file modes stop them as they stop a user.
 static const uid_t kUser = geteuid() == 0 ? 65534 : 0;
 

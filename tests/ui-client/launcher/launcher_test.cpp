@@ -16,7 +16,6 @@
 
 using namespace testsupport;
 
-QString q(const std::string& s) { return QString::fromStdString(s); }
 void PrintTo(const QString& s, std::ostream* os) { *os << '"' << s.toStdString() << '"'; }
 
 // A child started with the environment's assignments and command, through env.
