@@ -24,13 +24,6 @@ template <class F> std::string captured(F f) {  // what f writes to standard out
     return marked(testing::internal::GetCapturedStdout());
 }
 
-// Must stay the first test: it starts from the state the program started with.
-TEST(LoggerStartup, NothingIsWrittenBeforeInitializeNorAfterItFailed) {
-    EXPECT_EQ(captured([] { put("early\n"); }), "");
-    EXPECT_EQ(L::Initialize(L::TYPE_FILE, "/nonexistent/launcher.log", "", 50), -1);
-    EXPECT_EQ(captured([] { put("lost\n"); }), "");
-}
-
 class LoggerTest : public ::testing::Test {
 protected:
     void init_file(int rotate) { ASSERT_EQ(L::Initialize(L::TYPE_FILE, path, dir / "levels", rotate), 0); }

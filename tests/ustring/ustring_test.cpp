@@ -22,7 +22,6 @@ const char16_t kMixed16[] = u"a\u4E2D\U0001F600";
     #__VA_ARGS__, [](ustring& s) { try { __VA_ARGS__; } catch (const std::out_of_range& e) { s += e.what(); } }
 const US* W(const char16_t* s) { return reinterpret_cast<const US*>(s); }
 std::string Text(const ustring& s) { return std::string(s.c_str(), s.length()); }
-void Ten(ustring& s) { s = "0123456789"; s.c_str_utf16(); }  // ten characters, view built: capacities 11
 void ExpectText(const ustring& s, const std::string& text) {  // and both buffers terminated inside their capacities
     EXPECT_EQ(Text(s), text);
     EXPECT_LT(s.data_len, s.data_cap);
@@ -75,21 +74,6 @@ TEST(Ustring, EditsKeepTextAndViewInStep) {
             EXPECT_EQ(Text(ustring(s.c_str_utf16())), text);
             EXPECT_EQ(testing::internal::GetCapturedStderr(), "");  // no ICU warnings
         }
-}
-
-TEST(Ustring, BuffersFitExactlyAndShrinkBelowHalf) {  // UTF-8 work leaves the view's capacity alone
-    const std::tuple<const char*, Edit, uint32_t, uint32_t> cases[] = {  // edit on an empty string, capacities
-        {EDIT(s.clear()), 4, 4}, {EDIT(s = "abc"), 4, 4}, {EDIT(s = "abcd"), 5, 4}, {EDIT(s.append('x', 9)), 10, 4},
-        {EDIT(s = "ab"; s.append("cd"); s.append("e")), 6, 4}, {EDIT(s = "abc"; s.append(s.c_str())), 7, 4},
-        {EDIT(Ten(s); s = "abcd"), 11, 11}, {EDIT(Ten(s); s = "abc"), 4, 11}, {EDIT(Ten(s); s.clear()), 11, 11},
-        {EDIT(Ten(s); s = ustring("ab")), 3, 11}, {EDIT(Ten(s); s = "abcd"; s.c_str_utf16()), 11, 11},
-        {EDIT(Ten(s); s = "abc"; s.c_str_utf16()), 4, 4}, {EDIT(s = kMixed8; s.c_str_utf16()), 9, 5},
-        {EDIT(s = W(u"012345678")), 10, 10}, {EDIT(s = "ab"; s += W(u"cd")), 5, 5}, {EDIT(s.assign(US('x'), 5)), 6, 6}};
-    for (const auto& [name, steps, data_cap, wdata_cap] : cases) {
-        ustring s;
-        steps(s);
-        EXPECT_EQ(std::make_pair(s.data_cap, s.wdata_cap), std::make_pair(data_cap, wdata_cap)) << name;
-    }
 }
 
 TEST(Ustring, IcuFailuresWarnAndValidity) {

@@ -1,12 +1,8 @@
-// The compiled catalogues: what each holds, how it is stored, and what the launcher shows from it.
+// The compiled catalogues: what each holds and what the launcher shows from it.
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
-#include <QDateTime>
-#include <QFile>
-#include <QResource>
 #include <QTranslator>
-#include <QtEndian>
 
 #include "strtable.h"
 
@@ -54,26 +50,5 @@ TEST(Catalogues, EachHoldsEveryTextTranslatedWithItsTokensKept) {
         }
         EXPECT_EQ(StrTable::LoadStr(304) + '|' + StrTable::LoadStr(340), launcher_then_same.mid(0, 2).join('|'));
         QCoreApplication::removeTranslator(&translator);
-    }
-}
-
-// The format: a magic, then sections of tag, big-endian length and body; ours hold the messages and the
-// hash table, one (hash, offset) pair per distinct text. rcc compresses only what saves 70%, and keeps no times.
-TEST(Catalogues, EachHoldsOnlyHashesAndMessagesAndIsCompressedOnlyWhenWorthIt) {
-    for (const auto& [code, texts] : kCatalogues) {
-        SCOPED_TRACE(code.toStdString());
-        QFile file(QStringLiteral(QM_DIR "/") + code + ".qm");
-        const QByteArray plain = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-        ASSERT_TRUE(plain.startsWith(QByteArray::fromHex("3cb86418caef9c95cd211cbf60a1bddd")));
-        std::map<int, qint64> sections;
-        qint64 at = 16;
-        for (uchar tag; at + 5 <= plain.size(); at += 5 + sections[tag])
-            sections[tag = uchar(plain[int(at)])] = qFromBigEndian<quint32>(plain.constData() + at + 1);
-        const QResource resource(QStringLiteral(":/") + code + ".qm");
-        const bool worth_it = int(100.0 * (plain.size() - qCompress(plain).size()) / plain.size()) >= 70;
-        EXPECT_EQ(std::make_tuple(at, sections.size(), sections.count(0x69), sections[0x42], resource.lastModified().isValid(),
-                                  resource.compressionAlgorithm(), resource.uncompressedData() == plain),
-                  std::make_tuple(plain.size(), size_t(2), size_t(1), qint64(312 * 8), false,
-                                  worth_it ? QResource::ZlibCompression : QResource::NoCompression, true));
     }
 }
