@@ -1,7 +1,6 @@
 // Tests of Config: the key=value reader behind the pid file and the logger's level file.
 #include <gtest/gtest.h>
 
-#include <climits>
 #include <tuple>
 
 #include "config.h"
@@ -35,18 +34,6 @@ TEST(Config, ReadsLinesAndEmptiesTheMapOnAMalformedOne) {
     Config cfg{{{"kept", "yes"}}};  // an unusable path changes nothing
     EXPECT_EQ(std::make_pair(cfg.read(""), cfg.read(dir / "missing")), std::make_pair(-1, -1));
     EXPECT_EQ(cfg.entries, (Entries{{"kept", "yes"}}));
-}
-
-TEST(Config, GetIntReadsLikeAStreamAndSaturates) {
-    Config cfg;
-    for (const auto& [text, value] : {std::make_pair("4711", 4711), {"12abc", 12}, {"abc", 0}, {"", 0}, {" -3", -3},
-             {"\t\n+7", 7}, {"- 3", 0}, {"2147483647", INT_MAX}, {"-2147483648", INT_MIN}, {"2147483648", INT_MAX},
-             {"-2147483649", INT_MIN}, {"99999999999999999999", INT_MAX}, {"-99999999999999999999", INT_MIN}}) {
-        cfg.entries["key"] = text;
-        EXPECT_EQ(cfg.get_int("key"), value) << "value \"" << text << "\"";
-    }
-    EXPECT_EQ(cfg.get_int("absent"), 0);
-    EXPECT_EQ(cfg.entries.at("absent"), "");  // inserted empty
 }
 
 }  // namespace

@@ -1,9 +1,6 @@
-// The platform seam: a path's stored form, asked for in another case or Unicode form, file-system type names,
-// and holding on to one process.
+// The platform seam: a path's stored form, asked for in another case or Unicode form, and holding on to one process.
 #include "fs-platform.h"
 
-#include <langinfo.h>
-#include <clocale>
 #include <filesystem>
 #include <map>
 #include <vector>
@@ -12,7 +9,6 @@
 
 #include "test-support.h"
 #if defined(__linux__)
-#include <linux/magic.h>
 #include "fs-platform-linux.h"
 #endif
 
@@ -58,26 +54,7 @@ TEST(FsPlatformTest, ResolvesToTheStoredForm) {
     EXPECT_EQ(chdir("/"), 0);  // out of the folder about to be removed
 }
 
-// Names become UTF-8 for the C library; the other categories keep what the environment gave them.
-TEST(FsPlatformTest, Utf8NamesChangeOnlyTheCharacterType) {
-    ASSERT_TRUE(setlocale(LC_ALL, "C"));
-    ASSERT_TRUE(setlocale(LC_TIME, "C.UTF-8"));
-    EXPECT_EQ(FSUseUtf8Names(), 0);
-    EXPECT_EQ((std::vector<std::string>{nl_langinfo(CODESET), setlocale(LC_TIME, nullptr), setlocale(LC_MESSAGES, nullptr)}),
-              (std::vector<std::string>{"UTF-8", "C.UTF-8", "C"}));
-    setlocale(LC_ALL, "C");
-}
-
 #if defined(__linux__)
-TEST(FsPlatformTest, FileSystemTypeNames) {  // shares and FAT volumes cannot be mounted here: they go by magic number
-    for (const auto& [magic, type] : {std::pair<unsigned long, const char*>(NFS_SUPER_MAGIC, "nfs"),
-             {SMB2_SUPER_MAGIC, "smbfs"}, {CIFS_SUPER_MAGIC, "smbfs"}, {MSDOS_SUPER_MAGIC, "msdos"}, {0x1234ul, "unknown"}})
-        EXPECT_STREQ(FSFileSystemTypeNameOfMagic(magic), type) << magic;
-    std::string name;
-    EXPECT_EQ(FSFileSystemTypeName("/dev/shm", name), 0);
-    EXPECT_EQ(name, "tmpfs");
-}
-
 // Real processes, each waiting on a pipe as its standard input; with pidfds, and as on a kernel without them.
 class FsProcessTest : public ::testing::TestWithParam<bool> {
 protected:

@@ -190,18 +190,15 @@ inline void write_client(const std::string& bin, const std::string& on_term, con
     chmod(bin.c_str(), 0755);
 }
 
-// A client script writes "$$\n" to `marker`: once it has, its process (adopted by us as subreaper) is reaped.
-// Its pid, or 0 when no pid came within 10 s.
+// Once a client script has written "$$\n" to `marker`, its process (adopted by us as subreaper) is reaped: its pid, else 0.
 inline pid_t reap_marked(const std::string& marker) {
     if (!wait_for([&] { return exists(marker) && read_file(marker).back() == '\n'; }, 1000)) return 0;
     const pid_t pid = std::stoi(read_file(marker));
     return waitpid(pid, nullptr, 0) == pid ? pid : 0;
 }
 
-// Calls `start`, which forks and gives the child's pid, until the child gets process id `pid` (which must be free):
-// the last id the kernel gave out is set to the one before (Linux and root only); children that missed it are killed.
-// Another process may take the id first. The last id given out is put back after, so that other processes do not go
-// on to reuse recently freed ids. The child's pid, or -1.
+// Calls `start` (a fork; the child's pid) until the child gets the free id `pid`, by setting the last id given out to the one
+// before (Linux, root); children that missed are killed. The last id is put back after. The child's pid, or -1.
 template <class Start>
 pid_t at_pid(pid_t pid, Start start) {
     const char* const last_pid = "/proc/sys/kernel/ns_last_pid";

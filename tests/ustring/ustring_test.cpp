@@ -101,14 +101,10 @@ TEST(Ustring, IcuFailuresWarnAndValidity) {
 TEST(Ustring, SearchFamiliesAgreeAcrossOverloads) {
     const char *h = "hello world", *u8 = "a\xC3\xA9\xE4\xB8\xAD" "b";  // U+00E9 at 1, U+4E2D at 3, b at 6
     const std::tuple<const char*, char, const char*, uint32_t, uint32_t> cases[] = {
-        {h, 'F', "ol", 5, 7}, {h, 'F', "d", 10, 10}, {h, 'F', "h", 11, npos}, {h, 'N', "hel", 0, 4}, {h, 'N', "", 3, 3},
-        {h, 'N', "d", 10, npos}, {h, 'N', "", 11, npos}, {h, 'L', "ol", 9, 9}, {h, 'L', "dl", 100, 10},
-        {h, 'L', "h", npos, 0}, {"", 'L', "a", npos, npos}, {h, 'M', "dlr", npos, 7}, {h, 'M', "el", 3, 0},
-        {h, 'M', "h", 0, npos}, {h, 'M', "", npos, 10}, {"", 'M', "", npos, npos}, {h, 'f', "world", 0, 6},
-        {h, 'f', "", 3, 3}, {h, 'f', "", 11, npos}, {h, 'r', "o", 7, 7}, {h, 'r', "o", 6, 4}, {h, 'r', "ld", npos, 9},
-        {h, 'r', "world", 5, npos}, {h, 'r', "", 11, 10}, {"", 'r', "", npos, npos}, {u8, 'N', "a\xC3", 0, 2},
-        {u8, 'f', "\xE4\xB8\xAD", 0, 3}, {u8, 'F', "\xAD\xB8", 0, 4}, {u8, 'L', "\xC3\xE4", npos, 3},
-        {u8, 'M', "b\xAD", npos, 4}};
+        {h, 'F', "ol", 5, 7}, {h, 'F', "h", 11, npos}, {h, 'N', "hel", 0, 4}, {h, 'N', "", 11, npos}, {h, 'L', "dl", 100, 10},
+        {h, 'L', "h", npos, 0}, {"", 'L', "a", npos, npos}, {h, 'M', "dlr", npos, 7}, {h, 'M', "h", 0, npos},
+        {"", 'M', "", npos, npos}, {h, 'f', "world", 0, 6}, {h, 'f', "", 11, npos}, {h, 'r', "o", 6, 4}, {h, 'r', "ld", npos, 9},
+        {h, 'r', "", 11, 10}, {"", 'r', "", npos, npos}, {u8, 'f', "\xE4\xB8\xAD", 0, 3}, {u8, 'L', "\xC3\xE4", npos, 3}};
     for (const auto& [text, f, arg, pos, want] : cases) {
         const ustring s(text);
         auto find = [&, f = f, p = pos](const auto& a) {  // F/N: first of/not of, L/M: last of/not of

@@ -110,17 +110,6 @@ TEST_F(ExtractorTest, ReplacesWhatIsInTheWayKeepsLinksListsAndCopies) {
     EXPECT_EQ(log(), "");
 }
 
-// An empty field is refused before anything is read or reported; copy_data needs both ends.
-TEST_F(ExtractorTest, EmptyFieldsAreRefused) {
-    archive* reader = archive_read_new();
-    const std::string refused = kErr + "Invalid Argument\n", refused_too = kErr + "Invalid argument\n";
-    for (Extractor x : {Extractor{"", dir / "pkg.tar"}, Extractor{dir / "out", ""}}) {
-        EXPECT_EQ((Results{x.Extract(), x.Count(), x.List(), ex.copy_data(reader, nullptr), ex.copy_data(nullptr, reader)}), Results(5, -1));
-        EXPECT_EQ(log() + reports.toStdString(), refused + refused_too + refused_too + refused + refused);
-    }
-    archive_read_free(reader);
-}
-
 // Readers that get nowhere: a FIFO with no writer (stuck in open), one whose writer is silent (stuck in the format
 // detection); libarchive looping on a package: launcher_e2e_test. The count is given up after the stall limit;
 // the readers, set free later, end without a word.

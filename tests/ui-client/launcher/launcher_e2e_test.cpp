@@ -184,7 +184,6 @@ INSTANTIATE_TEST_SUITE_P(Cases, LauncherE2E, ::testing::Values(
     Case{"CorruptPackageRollsBack", 99, 0, kCorrupt, kRolledBack}, Case{"UpgradeStopsRunningClient", 99, 0, kRunning, kInstalled},
     Case{"RelativeArgv0", 0, 0, kRelative, kInstalled}, Case{"NonAsciiHome", 0, 0, kPlain, kInstalled, "Jérôme 数据"},
     Case{"NfdHomeFirstInstall", 0, 0, kPlain, kInstalled, kNfdHome}, Case{"NfdHomeCurrentInstall", 100, 0, kPlain, kKept, kNfdHome},
-    Case{"NfdHomeUpgradeStopsRunningClient", 99, 0, kRunning, kInstalled, kNfdHome},
     Case{"NfdHomeAskedForInNfc", 99, 0, kRunning, kInstalled, kNfdHome, "Jos\xC3\xA9 M\xC3\xBCller"},
     Case{"LockedFoldersOfADamagedPackageRollBack", 99, 0, kLockedFolders, kRolledBack},
     Case{"NoLogFolderLogsNothingAndGoesOn", 0, 0, kNoLogFolder, kInstalled},

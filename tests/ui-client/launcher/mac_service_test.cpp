@@ -1,4 +1,4 @@
-// MacService with real processes: the upgrade decision, stopping the client and starting it.
+// MacService with real processes: stopping the client and starting it.
 #include <gtest/gtest.h>
 #include <linux/capability.h>
 #include <sys/prctl.h>
@@ -39,21 +39,6 @@ protected:
     const std::string bin = tmp / ".Lumora/app/bin/lumora-ui", pid_file = tmp / ".Lumora/ui.pid", named = "pid file '" + pid_file + "'";
     const std::string D = "[DEBUG] mac/mac-service.cpp(N): ", N = "[NOTE] mac/mac-service.cpp(N): ";
 };
-
-TEST_F(MacServiceTest, UpgradeWhenTargetBuildIsHigherOrBinaryMissing) {
-    // Reading the numbers (saturating, leading digits) is Config's, tested there.
-    const struct { const char *source, *target; int s, t; bool binary, upgrade; } cases[] = {{"100", "100", 100, 100, true, false},
-        {"100", "99", 100, 99, true, false}, {"99", "100", 99, 100, true, true}, {"abc", "", 0, 0, true, false},
-        {"100", "100", 100, 100, false, true}, {"100", "99", 100, 99, false, true}};
-    for (const auto& c : cases) {
-        SCOPED_TRACE(std::string(c.source) + " -> " + c.target + (c.binary ? " with" : " without") + " binary");
-        c.binary ? write_file(bin, "") : (void)::remove(bin.c_str());
-        MacService s;
-        s.source_version.build_version = c.source, s.target_version.build_version = c.target;
-        EXPECT_EQ(s.IsNeedUpgrade(), c.upgrade);
-        EXPECT_EQ(log(), D + "source version = " + std::to_string(c.s) + ", target version = " + std::to_string(c.t) + "\n");
-    }
-}
 
 // SIGKILL some five seconds after SIGTERM (a client that ends on SIGTERM: launcher_e2e_test's UpgradeStopsRunningClient);
 // never to a process that is not the client, nor to a group.

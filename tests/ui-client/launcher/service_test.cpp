@@ -1,5 +1,5 @@
 // The upgrade service on a real disk under a non-ASCII HOME: paths, the source version record, the
-// backup/extract/rollback swap of the app folder, the copy. Real packages: launcher_e2e_test.
+// backup/extract/rollback swap of the app folder. Real packages: launcher_e2e_test.
 #include <gtest/gtest.h>
 
 #include "log.h"
@@ -98,12 +98,3 @@ TEST(Service, AFailedRollbackNamesTheBackupAndAMissingBundleInfoReadsEmpty) {
               sb.app + "_tmp'\n" + I + "target_version = (, , , )\n");
 }
 
-TEST(Service, CopyPathCopiesFilesAndTreesAndRefusesAMissingSource) {
-    Sandbox sb;
-    make_tree(sb.tmp.path(), {{"/one", "single"}, {"/src", "/"}, {"/src/g", "g"}, {"/src/sub", "/"}, {"/src/sub/f", "f"}});
-    for (const std::string name : {"one", "src", "gone"})
-        EXPECT_EQ(Scripted().FSCopyPath((sb.tmp / name).c_str(), (sb.tmp / name + ".copy").c_str()), name == "gone" ? -1 : 0);
-    EXPECT_EQ(read_file(sb.tmp / "one.copy"), "single");
-    EXPECT_EQ(snapshot(sb.tmp / "src.copy"), snapshot(sb.tmp / "src"));
-    EXPECT_EQ(sb.log(), E + "FSCopyPath: source path '" + sb.tmp / "gone" + "' does not exist\n");
-}
